@@ -4,8 +4,7 @@
 
 namespace tessera {
 
-PictureEntry parsePictureEntry(const std::string& entry)
-{
+PictureEntry parsePictureEntry(const std::string& entry) {
     PictureEntry picture;
     if (entry.size() < 15)
         return picture;

@@ -13,7 +13,7 @@ namespace tessera {
 struct CourseContent {
     std::array<int32_t, SectionMarkCount + 1> SectionMarks{};
     std::string RtfHeader;
-    std::array<std::string, 12> TextSections;           // entries 1..7 used
+    std::array<std::string, 12> TextSections;             // entries 1..7 used
     std::array<std::string, HelpTextCount + 1> HelpTexts; // entries 1..17
     std::vector<std::string> ReviewItems = std::vector<std::string>(ReviewItemLimit + 1);
     std::vector<std::string> ExamItemTexts = std::vector<std::string>(ExamItemLimit + 1);

@@ -2,8 +2,7 @@
 
 namespace tessera {
 
-void FillCatalogue(SessionState& state)
-{
+void FillCatalogue(SessionState& state) {
     CourseCatalogue& c = state.catalogue;
     c.CrLf = "\r\n";
     c.FirstTitleLine = "REAL ESTATE SALESPERSON TESSERA";
@@ -32,8 +31,8 @@ void FillCatalogue(SessionState& state)
                      "Real Estate Practice",
                      "Tax Implications of Real Estate Ownership",
                      "Brokerage: Responsibilities and Functions of Salespersons"};
-    c.TestTypeNames = {"", "All Items", "Retake All Items", "Retake Missed Items",
-                       "Retake Wild Guesses", ""};
+    c.TestTypeNames = {
+        "", "All Items", "Retake All Items", "Retake Missed Items", "Retake Wild Guesses", ""};
     c.ExamNames = {"",
                    "Screening Exam I",
                    "Screening Exam II",
@@ -54,8 +53,7 @@ void FillCatalogue(SessionState& state)
         state.ExamTopics[t] = true;
 }
 
-int RunningItemNumber(const CourseContent& content, int topic, int ordinal)
-{
+int RunningItemNumber(const CourseContent& content, int topic, int ordinal) {
     int number = ordinal;
     for (int u = 1; u < topic && u <= TopicCount; ++u)
         number += content.ItemCounts[u][1];

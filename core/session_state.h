@@ -4,6 +4,7 @@
 #include "core/course_catalogue.h"
 #include "core/course_content.h"
 #include "core/date_value.h"
+#include "core/records.h"
 
 #include <array>
 #include <cstdint>
@@ -74,6 +75,9 @@ struct SessionState {
     int16_t HelpTopic = 1;
     int16_t ViewerSection = 1;
     bool NoteBookChanged = false;
+
+    // ProgressHeader, ReviewTestRecord and ExamRecord: scratch buffers of the file operations.
+    RecordBuffers Buffers;
 };
 
 // Start-up's first step: CrLf, the captions, file names, defaults and the catalogue, in that order.

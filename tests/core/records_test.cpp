@@ -1,0 +1,279 @@
+#include "core/records.h"
+#include "core/session_state.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+using namespace tessera;
+
+namespace {
+
+RecordBytes RandomBytes(unsigned seed) {
+    std::mt19937 random(seed);
+    RecordBytes bytes;
+    for (auto& b : bytes)
+        b = static_cast<uint8_t>(random() & 0xFF);
+    return bytes;
+}
+
+} // namespace
+
+TEST(Records, EveryByteSurvivesDecodeAndEncode) {
+    for (unsigned seed = 1; seed <= 20; ++seed) {
+        const RecordBytes bytes = RandomBytes(seed);
+        EXPECT_EQ(EncodeHeader(DecodeHeader(bytes)), bytes);
+        EXPECT_EQ(EncodeReviewTest(DecodeReviewTest(bytes)), bytes);
+        EXPECT_EQ(EncodeExam(DecodeExam(bytes)), bytes);
+    }
+}
+
+TEST(Records, HeaderFieldsStandAtTheirOffsets) {
+    ProgressHeader h;
+    h.ScrambleQuestions = 1;
+    h.SoundOn = 2;
+    h.IncludeProgressReport = 1;
+    h.PassingGrade = 70;
+    h.SuspendedTestRecord = 5;
+    h.SuspendedExamRecord = 7;
+    h.UserName = "Pat";
+    h.TakeCounts[1] = 3;
+    h.TakeCounts[12] = 2;
+    h.LogDates[2] = "11-19-2026";
+    h.LogCodes[2] = 11;
+    h.LogScores[2] = 0.75f;  // 0x3F400000
+    h.LogScores[36] = -2.0f; // 0xC0000000
+    h.Reserved[0] = 0xAB;
+    h.Reserved[350] = 0xCD;
+    const RecordBytes b = EncodeHeader(h);
+    EXPECT_EQ(b[0], 1);
+    EXPECT_EQ(b[1], 2);
+    EXPECT_EQ(b[2], 0);
+    EXPECT_EQ(b[3], 1);
+    EXPECT_EQ(b[4], 70);
+    EXPECT_EQ(b[5], 5);
+    EXPECT_EQ(b[6], 7);
+    EXPECT_EQ(std::string(b.begin() + 7, b.begin() + 37), "Pat" + std::string(27, ' '));
+    EXPECT_EQ(b[37], 3);
+    EXPECT_EQ(b[48], 2);
+    EXPECT_EQ(b[49], 0); // slot 1 stays free
+    EXPECT_EQ(std::string(b.begin() + 59, b.begin() + 69), "11-19-2026");
+    EXPECT_EQ(b[410], 11);
+    EXPECT_EQ((std::array<uint8_t, 4>{b[449], b[450], b[451], b[452]}),
+              (std::array<uint8_t, 4>{0x00, 0x00, 0x40, 0x3F}));
+    EXPECT_EQ(b[588], 0xC0);
+    EXPECT_EQ(b[589], 0xAB);
+    EXPECT_EQ(b[939], 0xCD);
+
+    SessionState state;
+    ApplyHeader(DecodeHeader(b), state);
+    EXPECT_TRUE(state.ScrambleQuestions);
+    EXPECT_FALSE(state.SoundOn) << "a flag byte of 2 is off";
+    EXPECT_FALSE(state.TimerActive);
+    EXPECT_EQ(state.PassingGrade, 70);
+    EXPECT_EQ(state.TakeCounts[12], 2);
+    EXPECT_EQ(state.UserName.size(), 30u);
+}
+
+TEST(Records, ReviewTestFieldsStandAtTheirOffsets) {
+    RecordBytes b{};
+    b[0] = 4;
+    b[11] = 0x02; // position 0x0102, low byte first
+    b[12] = 0x01;
+    b[13] = 0xFE; // furthest -2
+    b[14] = 0xFF;
+    b[15] = 40;
+    b[17] = 3;
+    b[21] = 0x3F; // score 0.5 = 0x3F000000
+    b[20] = 0x00;
+    b[25] = 0x40; // tries ratio 2.0 = 0x40000000
+    b[26] = 1;
+    b[30] = 0x42; // minutes 64.0 = 0x42800000
+    b[29] = 0x80;
+    b[31] = 9;
+    b[35] = 12;
+    b[37] = 1;
+    b[39] = 2;
+    b[40] = 0x1C; // item 796 = 0x031C
+    b[41] = 0x03;
+    b[638] = 7;
+    b[640] = 2;
+    b[939] = 4;
+    const ReviewTestRecord t = DecodeReviewTest(b);
+    EXPECT_EQ(t.Topic, 4);
+    EXPECT_EQ(t.Position, 0x0102);
+    EXPECT_EQ(t.Furthest, -2);
+    EXPECT_EQ(t.ItemCount, 40);
+    EXPECT_EQ(t.TestType, 3);
+    EXPECT_EQ(t.Score, 0.5f);
+    EXPECT_EQ(t.TriesRatio, 2.0f);
+    EXPECT_EQ(t.Scrambled, 1);
+    EXPECT_EQ(t.MinutesUsed, 64.0f);
+    EXPECT_EQ(t.Tally[1], 9);
+    EXPECT_EQ(t.Tally[3], 12);
+    EXPECT_EQ(t.WishesLeft[1], 1);
+    EXPECT_EQ(t.WishesLeft[3], 2);
+    EXPECT_EQ(t.Items[1], 796);
+    EXPECT_EQ(t.Items[300], 7);
+    EXPECT_EQ(t.Misses[1], 2);
+    EXPECT_EQ(t.Misses[300], 4);
+}
+
+TEST(Records, ExamFieldsStandAtTheirOffsets) {
+    RecordBytes b{};
+    b[0] = 12;
+    b[13] = 150;
+    b[15] = 149;
+    b[17] = 6;
+    b[22] = 3;
+    b[24] = 1;
+    b[28] = 0x3F; // minutes 1.0 = 0x3F800000
+    b[27] = 0x80;
+    b[29] = 195;
+    b[30] = 1;
+    b[31] = 1;
+    b[39] = 1;
+    b[42] = 0x2C; // item 2 = 300
+    b[43] = 0x01;
+    b[641] = 80;
+    const ExamRecord e = DecodeExam(b);
+    EXPECT_EQ(e.Kind, 12);
+    EXPECT_EQ(e.ItemCount, 150);
+    EXPECT_EQ(e.AnsweredCount, 149);
+    EXPECT_EQ(e.ExamType, 6);
+    EXPECT_EQ(e.UnsureCount, 3);
+    EXPECT_EQ(e.Scrambled, 1);
+    EXPECT_EQ(e.MinutesUsed, 1.0f);
+    EXPECT_EQ(e.TimeLimit, 195);
+    EXPECT_EQ(e.Structured, 1);
+    EXPECT_EQ(e.Topics[1], 1);
+    EXPECT_EQ(e.Topics[2], 0);
+    EXPECT_EQ(e.Topics[9], 1);
+    EXPECT_EQ(e.Items[2], 300);
+    EXPECT_EQ(e.AnswerCodes[2], 80);
+}
+
+TEST(Records, AnswerCodeFollowsTheTableBothWays) {
+    // answer 2, wrong, answered twice, unsure: 2 + 5 + 10 + 63
+    EXPECT_EQ(EncodeAnswerCode(2, true, 2, true), 80);
+    EXPECT_EQ(EncodeAnswerCode(4, false, 1, false), 4);
+    EXPECT_EQ(EncodeAnswerCode(1, false, 7, false), 21) << "three or more answers add 20";
+    for (int answer = 1; answer <= 4; ++answer)
+        for (int count = 1; count <= 3; ++count)
+            for (bool wrong : {false, true})
+                for (bool unsure : {false, true}) {
+                    const uint8_t code = EncodeAnswerCode(answer, wrong, count, unsure);
+                    const auto decoded = DecodeAnswerCode(code);
+                    ASSERT_TRUE(decoded) << int(code);
+                    EXPECT_EQ(decoded->answer, answer);
+                    EXPECT_EQ(decoded->right, !wrong);
+                    EXPECT_EQ(decoded->answerCount, count);
+                    EXPECT_EQ(decoded->unsure, unsure);
+                }
+    for (int code : {0, 31, 40, 63, 94, 200, 255})
+        EXPECT_FALSE(DecodeAnswerCode(static_cast<uint8_t>(code))) << code;
+    EXPECT_EQ(DecodeAnswerCode(93)->answer, 5);
+    EXPECT_EQ(DecodeAnswerCode(64)->answer, 1);
+}
+
+TEST(Records, ReviewTestGoesToItsRecordAndComesBack) {
+    SessionState state;
+    FillCatalogue(state);
+    state.CurrentTopic = 6;
+    state.TestType = 2;
+    state.TestItemCount = 4;
+    state.TestPosition = 3;
+    state.TestFurthest = 3;
+    state.TestScore = 0.5f;
+    state.TestTally = {0, 1, 1, 6, 0};
+    state.WishesLeft = {0, 1, 0, 1};
+    state.TestElapsed = 90.0 / MinutesPerDay;
+    state.ScrambleQuestions = true;
+    state.TestItems = {0, 401, 402, 403, 404, 999};
+    state.TestMisses = {0, 0, 2, 1, 0};
+    ReviewTestRecord record;
+    record.Items[5] = 77; // past the count: kept as the buffer held it
+    FillReviewTestRecord(state, "11-19-2026", record);
+    EXPECT_EQ(record.Topic, 6);
+    EXPECT_EQ(record.TriesRatio, 1.5f);
+    EXPECT_EQ(record.MinutesUsed, 90.0f);
+    EXPECT_EQ(record.Scrambled, 1);
+    EXPECT_EQ(record.Items[5], 77);
+
+    SessionState restored;
+    FillCatalogue(restored);
+    RestoreReviewTest(DecodeReviewTest(EncodeReviewTest(record)), restored);
+    EXPECT_EQ(restored.CurrentTopic, 6);
+    EXPECT_EQ(restored.TestType, 2);
+    EXPECT_EQ(restored.TestPosition, 3);
+    EXPECT_EQ(restored.TestItemCount, 4);
+    EXPECT_DOUBLE_EQ(restored.TestElapsed * MinutesPerDay, 90.0);
+    EXPECT_EQ(restored.TestItems[4], 404);
+    EXPECT_EQ(restored.TestItems[5], 0);
+    EXPECT_EQ(restored.TestMisses[2], 2);
+    EXPECT_EQ(restored.TestTally[3], 6);
+    EXPECT_EQ(restored.WishesLeft[3], 1);
+}
+
+TEST(Records, ExamSaveWipesUncommittedPositionsAndRestores) {
+    SessionState state;
+    FillCatalogue(state);
+    state.ExamKind = 2;
+    state.ExamType = 5;
+    state.ExamItemCount = 4;
+    state.ExamPosition = 2;
+    state.ExamStructured = 1;
+    state.ExamTopics[4] = false;
+    state.ExamItems = {0, 11, 12, 13, 14};
+    state.ExamKey = {0, 1, 2, 3, 4};
+    state.ExamAnswered = {0, 1, 1, 0, 1};
+    state.ExamAnswers = {0, 1, 3, 2, 4};
+    state.ExamAnswerCounts = {0, 1, 2, 1, 3};
+    state.ExamUnsure = {0, 0, 63, 63, 0};
+    ExamRecord record;
+    FillExamRecord(state, "01-02-2027", record);
+    EXPECT_EQ((std::array<uint8_t, 5>{record.AnswerCodes[1], record.AnswerCodes[2],
+                                      record.AnswerCodes[3], record.AnswerCodes[4], record.Kind}),
+              (std::array<uint8_t, 5>{1, 3 + 5 + 10 + 63, 0, 4 + 20, 11}));
+    EXPECT_EQ(record.AnsweredCount, 3);
+    EXPECT_EQ(record.UnsureCount, 1);
+    EXPECT_FLOAT_EQ(state.ExamScore, 0.5f) << "an uncommitted item counts as missed";
+    EXPECT_EQ(state.ExamUnsure[3], 0);
+    EXPECT_EQ(record.Topics[4], 0);
+    EXPECT_EQ(record.TimeLimit, 195);
+
+    SessionState restored;
+    FillCatalogue(restored);
+    RestoreExam(DecodeExam(EncodeExam(record)), restored);
+    EXPECT_EQ(restored.ExamKind, 2);
+    EXPECT_EQ(restored.ExamType, 5);
+    EXPECT_EQ(restored.ExamPosition, 2);
+    EXPECT_EQ(restored.ExamStructured, 1);
+    EXPECT_FALSE(restored.ExamTopics[4]);
+    EXPECT_TRUE(restored.ExamTopics[5]);
+    EXPECT_EQ(restored.ExamAnswers[2], 3);
+    EXPECT_EQ(restored.ExamAnswerCounts[2], 2);
+    EXPECT_EQ(restored.ExamUnsure[2], 63);
+    EXPECT_EQ(restored.ExamAnswers[3], 0);
+    EXPECT_EQ(restored.ExamAnswerCounts[4], 3);
+    EXPECT_EQ(restored.ExamItems[4], 14);
+}
+
+TEST(Records, RestoreNeverWalksPastTheTables) {
+    ReviewTestRecord test;
+    test.ItemCount = 30000;
+    test.Position = -5;
+    test.Items[1] = 5000;
+    SessionState state;
+    RestoreReviewTest(test, state);
+    EXPECT_EQ(state.TestItemCount, 300);
+    EXPECT_EQ(state.TestPosition, 0);
+    EXPECT_EQ(state.TestItems[1], 0);
+
+    ExamRecord exam;
+    exam.ItemCount = -1;
+    exam.Kind = 200;
+    RestoreExam(exam, state);
+    EXPECT_EQ(state.ExamItemCount, 0);
+    EXPECT_EQ(state.ExamKind, 1);
+}
