@@ -111,7 +111,7 @@ INSTANTIATE_TEST_SUITE_P(
     Drills, GradeRules,
     ::testing::Values(GradeCase{0.75F, 85, false, true}, GradeCase{0.69F, 70, false, false},
                       GradeCase{0.65F, 60, true, true}, GradeCase{7.0F / 10.0F, 70, true, true},
-                      GradeCase{0.0F, 0, true, false}, GradeCase{1.0F, 100, true, true}));
+                      GradeCase{0.0F, 0, true, true}, GradeCase{1.0F, 100, true, true}));
 
 TEST(EndOfTest, OnlyAnAllItemsTestBelowThreeDrillsIsLogged) {
     EXPECT_TRUE(LogsDrill(AllItemsTest, 2));
