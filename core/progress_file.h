@@ -1,0 +1,81 @@
+#pragma once
+// The operations that write the progress file TesseraConfig.MS; nothing else changes a record.
+// Each opens the file by bare name in the current directory, does its work and closes it.
+
+#include "core/records.h"
+#include "core/session_state.h"
+
+#include <string>
+#include <vector>
+
+namespace tessera {
+
+inline constexpr const char* ProgressFile = "TesseraConfig.MS";
+inline constexpr const char* NewProgressFile = "NewConfig";
+
+// A suspended record number lives in one header byte, so only records 2 to 255 can be pointed
+// at. A test broken off at a higher record number is still written in full, and the session
+// keeps its number, so it resumes in this run; only the header cannot point at it, and after
+// the program ends it stands on the report card as an unfinished test. The screen tells the
+// candidate with SuspendedBeyondHeaderMessage. Nothing of the work is lost.
+inline constexpr int HighestSuspendedRecord = 255;
+
+enum class SaveStatus {
+    Saved,
+    SuspendedBeyondHeader, // saved, but resumable only until the program ends
+    FileFailed,            // the progress file could not be opened or written
+};
+
+inline constexpr const char* SuspendedBeyondHeaderTitle = "Progress File Full!";
+inline constexpr const char* SuspendedBeyondHeaderMessage =
+    "Your work is saved, but your progress file holds too many tests for this one to be "
+    "resumed after you quit. Finish it before you close the program, or erase older tests "
+    "from a report card.";
+
+struct SaveResult {
+    SaveStatus status = SaveStatus::Saved;
+    int recordNumber = 0; // the record written
+};
+
+// Writes the review test in progress; a finished test clears SuspendedTestRecord, TestFurthest
+// and TestPosition. Stores TakeCounts(CurrentTopic) in its counter byte.
+SaveResult SaveReviewTest(SessionState& state, bool finished, DateValue today);
+
+// Writes the exam in progress (scoring it, see FillExamRecord); a finished exam clears
+// SuspendedExamRecord and ExamPosition. The record number written is returned, since an exam
+// under 30% is removed again.
+SaveResult SaveExam(SessionState& state, bool finished, DateValue today);
+
+// Files one log entry in the first free slot of 36; with none free the entry is dropped.
+void AppendProgressLog(int code, float score, DateValue today);
+
+// Writes the four option flags and the passing grade; header bytes 0 to 4 only.
+void SavePreferences(const SessionState& state);
+
+// Rewrites the file after a report card erased rows: the header, then the card's records in
+// the card's order, then the records of the other kind in their old order. The suspended
+// record of the other kind follows its record, in the session and in the header.
+SaveStatus RewriteProgressFile(SessionState& state, const std::vector<ReviewTestRecord>& kept);
+SaveStatus RewriteProgressFile(SessionState& state, const std::vector<ExamRecord>& kept);
+
+// Takes one record out; suspended records behind it move up by one.
+SaveStatus RemoveProgressRecord(SessionState& state, int recordNumber);
+
+// Reads: a missing or short file reads as zeros, so a missing file is a first run.
+ProgressHeader ReadProgressHeader();
+void WriteProgressHeader(const ProgressHeader& header);
+int ProgressRecordCount();
+std::vector<ReviewTestRecord>
+ReadReviewTestRecords();                   // records 2 on with a first byte of 9 or less
+std::vector<ExamRecord> ReadExamRecords(); // records 2 on with a first byte above 9
+
+// Start-up: puts the suspended test and exam the header points at back into the session and
+// sets SuspendedTestRecord and SuspendedExamRecord. A number that points outside the file, at
+// the header or at a record of the other kind is ignored.
+void RestoreSuspended(SessionState& state);
+
+// Start-up: a complete NewConfig left by a crash with no progress file becomes the progress
+// file; a NewConfig beside an intact progress file is an unfinished rewrite and is deleted.
+void RecoverProgressFile();
+
+} // namespace tessera
