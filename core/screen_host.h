@@ -38,6 +38,8 @@ public:
     virtual void unload(ScreenName name) = 0;
     // The loaded screen, or nullptr.
     virtual QWidget* find(ScreenName name) const = 0;
+    // False for a screen that this build does not have; its commands stay disabled.
+    virtual bool isAvailable(ScreenName name) const = 0;
     // Ends the program: every screen goes.
     virtual void endProgram() = 0;
 };

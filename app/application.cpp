@@ -1,0 +1,177 @@
+#include "app/application.h"
+
+#include "app/screen_registrations.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QEventLoop>
+#include <QWidget>
+
+namespace tessera {
+
+int WindowSlotOf(ScreenName name) {
+    switch (name) {
+    case ScreenName::AlarmForm:
+        return AlarmFormSlot;
+    case ScreenName::Calculator:
+        return CalculatorSlot;
+    case ScreenName::ExamTest:
+        return ExamTestSlot;
+    case ScreenName::ExamSet:
+        return ExamSetSlot;
+    case ScreenName::Help:
+        return HelpSlot;
+    case ScreenName::Navigator:
+        return NavigatorSlot;
+    case ScreenName::NoteBook:
+        return NoteBookSlot;
+    case ScreenName::Preferences:
+        return PreferencesSlot;
+    case ScreenName::PictForm:
+        return PictFormSlot;
+    case ScreenName::Quiz800:
+        return Quiz800Slot;
+    case ScreenName::QuizSumm:
+        return QuizSummSlot;
+    case ScreenName::Results:
+        return ResultsSlot;
+    case ScreenName::Scoring:
+        return ScoringSlot;
+    case ScreenName::Viewing:
+        return ViewingSlot;
+    case ScreenName::Pubdat:
+    case ScreenName::ButtonMenu:
+    case ScreenName::Aladdin:
+        break;
+    }
+    return 0;
+}
+
+Application::Application(Services& services)
+    : m_services(services), m_context{m_state, m_services, *this} {
+    RegisterAllScreens(m_registry);
+}
+
+Application::~Application() {
+    for (auto& [name, screen] : m_loaded) {
+        if (screen) {
+            screen->removeEventFilter(this);
+            disconnect(screen, nullptr, this, nullptr);
+            delete screen;
+        }
+    }
+}
+
+int Application::run() {
+    show(ScreenName::Pubdat);
+    if (m_ended)
+        return 0;
+    return QApplication::exec();
+}
+
+QWidget* Application::load(ScreenName name) {
+    if (m_ended)
+        return nullptr;
+    if (QWidget* loaded = find(name))
+        return loaded;
+    const ScreenFactory* create = m_registry.find(name);
+    if (create == nullptr)
+        return nullptr;
+    QWidget* screen = (*create)(m_context);
+    // Form_Load may end the program, as the title screen does when the course is missing.
+    if (m_ended) {
+        delete screen;
+        return nullptr;
+    }
+    screen->setAttribute(Qt::WA_DeleteOnClose);
+    screen->installEventFilter(this);
+    connect(screen, &QObject::destroyed, this, &Application::forget);
+    placeWindow(name, screen);
+    m_loaded[name] = screen;
+    return screen;
+}
+
+QWidget* Application::show(ScreenName name) {
+    QWidget* screen = load(name);
+    if (screen != nullptr) {
+        screen->show();
+        screen->raise();
+        screen->activateWindow();
+    }
+    return screen;
+}
+
+void Application::showModal(ScreenName name) {
+    QWidget* screen = load(name);
+    if (screen == nullptr)
+        return;
+    QEventLoop loop;
+    connect(screen, &QObject::destroyed, &loop, &QEventLoop::quit);
+    screen->setWindowModality(Qt::ApplicationModal);
+    screen->show();
+    loop.exec();
+}
+
+void Application::unload(ScreenName name) {
+    QWidget* screen = find(name);
+    if (screen == nullptr)
+        return;
+    // Closing runs the screen's own unload; it is destroyed once the event has passed.
+    if (screen->close()) {
+        m_loaded.erase(name);
+        screen->deleteLater();
+    }
+}
+
+QWidget* Application::find(ScreenName name) const {
+    const auto found = m_loaded.find(name);
+    return found == m_loaded.end() ? nullptr : found->second.data();
+}
+
+void Application::endProgram() {
+    m_ended = true;
+    for (auto& [name, screen] : m_loaded) {
+        if (screen) {
+            screen->removeEventFilter(this);
+            screen->hide();
+            screen->deleteLater();
+        }
+    }
+    m_loaded.clear();
+    QCoreApplication::exit(0);
+}
+
+bool Application::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Hide) {
+        for (const auto& [name, screen] : m_loaded) {
+            if (screen == watched)
+                storeWindowPlace(name, screen);
+        }
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void Application::forget(QObject* screen) {
+    // By now the pointer to it reads null; a fresh copy under the same name stays.
+    Q_UNUSED(screen)
+    std::erase_if(m_loaded, [](const auto& entry) { return entry.second.isNull(); });
+}
+
+void Application::placeWindow(ScreenName name, QWidget* screen) const {
+    const int slot = WindowSlotOf(name);
+    if (slot != 0 && (m_state.WindowLeft[slot] != 0 || m_state.WindowTop[slot] != 0))
+        screen->move(m_state.WindowLeft[slot], m_state.WindowTop[slot]);
+}
+
+void Application::storeWindowPlace(ScreenName name, const QWidget* screen) {
+    const int slot = WindowSlotOf(name);
+    if (slot == 0)
+        return;
+    const QPoint place = screen->isMaximized() || screen->isMinimized()
+                             ? screen->normalGeometry().topLeft()
+                             : screen->pos();
+    m_state.WindowLeft[slot] = static_cast<int16_t>(place.x());
+    m_state.WindowTop[slot] = static_cast<int16_t>(place.y());
+}
+
+} // namespace tessera

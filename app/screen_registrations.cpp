@@ -1,0 +1,12 @@
+#include "app/screen_registrations.h"
+
+#include "core/core_screens.h"
+
+namespace tessera {
+
+// Each subsystem adds its include above and its one line here.
+void RegisterAllScreens(ScreenRegistry& registry) {
+    RegisterCoreScreens(registry);
+}
+
+} // namespace tessera

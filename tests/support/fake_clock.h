@@ -1,0 +1,39 @@
+#pragma once
+// A clock that stands still until the test moves it; setting the time changes only this clock.
+
+#include "platform/clock.h"
+
+#include <vector>
+
+namespace tessera {
+
+struct TimeOfDay {
+    int hours = 0;
+    int minutes = 0;
+    int seconds = 0;
+    bool operator==(const TimeOfDay&) const = default;
+};
+
+class FakeClock final : public Clock {
+public:
+    // Starts at 9:00 on 19 November 2026.
+    FakeClock();
+
+    DateValue now() const override { return m_now; }
+    double secondsSinceMidnight() const override;
+    bool setTimeOfDay(int hours, int minutes, int seconds) override;
+
+    void setNow(DateValue value) { m_now = value; }
+    void setDateTime(int year, int month, int day, int hours, int minutes, double seconds);
+    void advanceSeconds(double seconds);
+    // Makes setTimeOfDay fail as a system without the right to set the time would.
+    void refuseSettingTime(bool refuse) { m_refuse = refuse; }
+    const std::vector<TimeOfDay>& timesSet() const { return m_timesSet; }
+
+private:
+    DateValue m_now = 0;
+    bool m_refuse = false;
+    std::vector<TimeOfDay> m_timesSet;
+};
+
+} // namespace tessera

@@ -1,0 +1,32 @@
+#pragma once
+// A random source that gives scripted values first, then a fixed pseudo-random sequence.
+
+#include "platform/random_source.h"
+
+#include <deque>
+#include <initializer_list>
+#include <random>
+#include <vector>
+
+namespace tessera {
+
+class FakeRandom final : public Random {
+public:
+    explicit FakeRandom(uint32_t seedValue = 1) : m_engine(seedValue) {}
+
+    double next() override;
+    void seed(uint32_t value) override;
+
+    // Values that the next calls return, in order, before the sequence takes over.
+    void script(std::initializer_list<double> values) { m_script.insert(m_script.end(), values); }
+    int calls() const { return m_calls; }
+    const std::vector<uint32_t>& seeds() const { return m_seeds; }
+
+private:
+    std::mt19937 m_engine;
+    std::deque<double> m_script;
+    std::vector<uint32_t> m_seeds;
+    int m_calls = 0;
+};
+
+} // namespace tessera

@@ -1,0 +1,52 @@
+#include "tests/support/scripted_dialogs.h"
+
+namespace tessera {
+
+namespace {
+
+MessageAnswer unscriptedAnswer(MessageButtons buttons) {
+    switch (buttons) {
+    case MessageButtons::Ok:
+        return MessageAnswer::Ok;
+    case MessageButtons::OkCancel:
+    case MessageButtons::YesNoCancel:
+        return MessageAnswer::Cancel;
+    case MessageButtons::YesNo:
+        break;
+    }
+    return MessageAnswer::Yes;
+}
+
+} // namespace
+
+MessageAnswer ScriptedDialogs::message(const QString& text, const QString& title, MessageIcon icon,
+                                       MessageButtons buttons) {
+    m_messages.push_back({text, title, icon, buttons});
+    if (m_answers.empty()) {
+        ++m_unscripted;
+        return unscriptedAnswer(buttons);
+    }
+    const MessageAnswer answer = m_answers.front();
+    m_answers.pop_front();
+    return answer;
+}
+
+QString ScriptedDialogs::input(const QString& prompt, const QString& title, const QString&) {
+    m_inputs.push_back({prompt, title});
+    if (m_typed.empty()) {
+        ++m_unscripted;
+        return {};
+    }
+    QString text = m_typed.front();
+    m_typed.pop_front();
+    return text;
+}
+
+QStringList ScriptedDialogs::titles() const {
+    QStringList result;
+    for (const ShownMessage& shown : m_messages)
+        result.append(shown.title);
+    return result;
+}
+
+} // namespace tessera
