@@ -25,8 +25,7 @@ int ExamList::selectedPosition() const {
 
 int ExamList::rowOf(int position) const {
     const auto at = std::lower_bound(positions.begin(), positions.end(), position);
-    return at != positions.end() && *at == position ? static_cast<int>(at - positions.begin())
-                                                    : -1;
+    return at != positions.end() && *at == position ? static_cast<int>(at - positions.begin()) : -1;
 }
 
 namespace {
@@ -339,8 +338,8 @@ bool ExamSession::pressFinished(Dialogs& dialogs) {
     if (remaining > 0 && !m_timeExpired) {
         const DateValue asked = m_clock.now();
         const auto answer = dialogs.message(
-            QString::fromStdString("You failed to answer" + NumberText(remaining) +
-                                   " questions." + m_state.catalogue.CrLf +
+            QString::fromStdString("You failed to answer" + NumberText(remaining) + " questions." +
+                                   m_state.catalogue.CrLf +
                                    "Press O.K. to stop and view scoring results or Cancel to "
                                    "keep working."),
             QStringLiteral("Caution..."), MessageIcon::None, MessageButtons::OkCancel);

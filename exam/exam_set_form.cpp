@@ -27,8 +27,8 @@ std::string TopicCaption(const SessionState& state, int topic) {
 }
 
 namespace {
-const std::array<const char*, 3> ExamCaptions{
-    "Exam I - Author Prepared", "Exam II - Author Prepared", "Custom Built by You"};
+const std::array<const char*, 3> ExamCaptions{"Exam I - Author Prepared",
+                                              "Exam II - Author Prepared", "Custom Built by You"};
 }
 
 ExamSetForm::ExamSetForm(SessionState& state) : m_state(state) {

@@ -1,0 +1,120 @@
+// Drawing a new exam: the pool, the whole-range shuffle, the head of the pool, GapSort.
+
+#include "core/gap_sort.h"
+#include "exam/draw_exam.h"
+#include "exam_fixture.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <numeric>
+#include <set>
+
+namespace tessera {
+namespace {
+
+using testing::FakeClock;
+using testing::FakeRandom;
+
+std::vector<int> Items(const SessionState& s) {
+    return {s.ExamItems.begin() + 1, s.ExamItems.begin() + 1 + s.ExamItemCount};
+}
+
+TEST(GapSort, SortsRowsOneToNAndMovesParallelTables) {
+    for (int n : {0, 1, 2, 7, 64, 300}) {
+        std::vector<int> keys(n + 1), twin(n + 1);
+        for (int i = 1; i <= n; ++i) {
+            keys[i] = (i * 7919) % 1009; // distinct, scattered
+            twin[i] = -keys[i];
+        }
+        GapSort(
+            n, [&](int i, int j) { return keys[i] > keys[j]; },
+            [&](int i, int j) {
+                std::swap(keys[i], keys[j]);
+                std::swap(twin[i], twin[j]);
+            });
+        EXPECT_TRUE(std::is_sorted(keys.begin() + 1, keys.end())) << n;
+        for (int i = 1; i <= n; ++i) {
+            EXPECT_EQ(twin[i], -keys[i]);
+        }
+        EXPECT_EQ(keys[0], 0); // row 0 is never touched
+    }
+}
+
+TEST(DrawExam, DrawInRangeCoversOneToN) {
+    FakeRandom random;
+    random.values = {0.0, 0.999999, 0.5};
+    EXPECT_EQ(DrawInRange(random, 10), 1);
+    EXPECT_EQ(DrawInRange(random, 10), 10);
+    EXPECT_EQ(DrawInRange(random, 10), 6);
+}
+
+class DrawExamTest : public ::testing::Test {
+protected:
+    void SetUp() override { testing::MakeCourse(state, {4, 3, 5, 2, 2, 2, 2, 2, 3}, {6, 5}); }
+    SessionState state;
+    FakeRandom random;
+    FakeClock clock;
+};
+
+TEST_F(DrawExamTest, UnscrambledCustomExamOfTheWholePoolIsInRunningOrder) {
+    state.ExamKind = 3;
+    state.ExamScrambled = false;
+    state.ExamTopics.fill(false);
+    state.ExamTopics[2] = state.ExamTopics[4] = state.ExamTopics[9] = true;
+    state.ExamItemCount = 8; // 3 + 2 + 3
+    random.values = {0.9, 0.1, 0.6, 0.3, 0.75};
+    state.ExamAnswers[5] = 2; // a draw clears the answers of an earlier exam
+    DrawExam(state, random, clock);
+    // Topic 2 holds running numbers 5..7, topic 4 13..14, topic 9 23..25.
+    EXPECT_EQ(Items(state), (std::vector<int>{5, 6, 7, 13, 14, 23, 24, 25}));
+    EXPECT_EQ(state.ExamAnswers[5], 0);
+}
+
+TEST_F(DrawExamTest, CustomExamIsTheHeadOfAWholeRangeShuffle) {
+    state.ExamKind = 3;
+    state.ExamScrambled = true;
+    state.ExamTopics.fill(false);
+    state.ExamTopics[2] = true; // pool 5, 6, 7
+    state.ExamItemCount = 2;
+    // i=1: r=3 -> 7 6 5; i=2: r=1 -> 6 7 5; i=3: r=3 (the last still draws) -> 6 7 5
+    random.values = {0.9, 0.1, 0.7};
+    DrawExam(state, random, clock);
+    EXPECT_EQ(Items(state), (std::vector<int>{6, 7}));
+    EXPECT_EQ(state.ExamPool[3], 5);
+    EXPECT_EQ(random.at, 3u);
+}
+
+TEST_F(DrawExamTest, ScrambledCustomExamHoldsEachItemOnceFromChosenTopics) {
+    state.ExamKind = 3;
+    state.ExamTopics.fill(false);
+    state.ExamTopics[1] = state.ExamTopics[3] = true; // 1..4 and 8..12
+    state.ExamItemCount = 9;
+    random.values = {0.31, 0.87, 0.02, 0.55, 0.64, 0.18};
+    DrawExam(state, random, clock);
+    const std::vector<int> items = Items(state);
+    std::set<int> unique(items.begin(), items.end());
+    EXPECT_EQ(unique, (std::set<int>{1, 2, 3, 4, 8, 9, 10, 11, 12}));
+    EXPECT_FALSE(std::is_sorted(items.begin(), items.end()));
+}
+
+TEST_F(DrawExamTest, AuthorExamsFollowTheContentOrderUnlessScrambled) {
+    state.ExamScrambled = false;
+    state.ExamKind = 2;
+    state.ExamItemCount = 5;
+    DrawExam(state, random, clock);
+    // Exam II starts with the item after exam I's last.
+    EXPECT_EQ(Items(state), (std::vector<int>{7, 8, 9, 10, 11}));
+    EXPECT_EQ(random.at, 0u);
+
+    state.ExamScrambled = true;
+    state.ExamKind = 1;
+    state.ExamItemCount = 6;
+    random.values = {0.99, 0.0};
+    DrawExam(state, random, clock);
+    // Draws alternate 6 and 1: 6 2 3 4 5 1, 2 6 3 4 5 1, 2 6 1 4 5 3, 4 6 1 2 5 3, ...
+    EXPECT_EQ(Items(state), (std::vector<int>{5, 6, 1, 2, 3, 4}));
+}
+
+} // namespace
+} // namespace tessera
