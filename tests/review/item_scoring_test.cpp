@@ -2,8 +2,9 @@
 
 #include "review/coin_toss.h"
 #include "review/item_scoring.h"
+#include "review/review_item.h"
 #include "review/review_text.h"
-#include "sequence_random.h"
+#include "tests/support/fake_random.h"
 
 #include <gtest/gtest.h>
 
@@ -111,11 +112,13 @@ TEST(Gauge, BarStandsOnTheBottomLineAndTheArrowPointsAtTheGrade) {
 }
 
 TEST(CoinToss, SurvivorIsDrawnAgainUntilMarked) {
-    testing::SequenceRandom random({0.1, 0.3, 0.9});
+    FakeRandom random;
+    random.script({0.1, 0.3, 0.9});
     EXPECT_EQ(DrawCoinTossSurvivor({false, false, false, true}, random), 3);
-    testing::SequenceRandom first({0.3});
-    EXPECT_EQ(DrawCoinTossSurvivor({false, true, false, true}, first), 1);
-    EXPECT_EQ(DrawCoinTossSurvivor({false, false, false, false}, first), -1);
+    EXPECT_EQ(random.calls(), 3);
+    random.script({0.3});
+    EXPECT_EQ(DrawCoinTossSurvivor({false, true, false, true}, random), 1);
+    EXPECT_EQ(DrawCoinTossSurvivor({false, false, false, false}, random), -1);
 }
 
 TEST(CoinToss, CutLeavesABlankLineWhereTheAnswerStood) {
@@ -128,6 +131,17 @@ TEST(CoinToss, CutLeavesABlankLineWhereTheAnswerStood) {
     const std::string before = question;
     CutAnswerText(question, 0, "\r\n");
     EXPECT_EQ(question, before) << "an answer already cut is passed over";
+}
+
+TEST(ReviewItem, CutsLetterQuestionAndExplanation) {
+    const std::string item = "\\par 03007B\r\n\\par Which?\r\n\\par A. One\r\n\\par B. Two\r\n"
+                             "\\par \r\n\\par *\r\n\\par Because.\\par }\r\n";
+    const ReviewItemParts parts = CutReviewItem(item);
+    EXPECT_EQ(parts.rightAnswer, B);
+    EXPECT_EQ(parts.question, "Which?\r\n\\par A. One\r\n\\par B. Two\r\n\\par \r\n");
+    EXPECT_EQ(parts.explanation, "\r\n\\par Because.\\par }\r\n");
+    EXPECT_EQ(CutReviewItem("\\par 03").rightAnswer, 0) << "a short item cuts to nothing";
+    EXPECT_TRUE(CutReviewItem("\\par 03007C\r\n\\par no marker").explanation.empty());
 }
 
 } // namespace

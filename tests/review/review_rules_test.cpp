@@ -1,7 +1,7 @@
 // The rules of a review test as a whole: building, wishes, passing, counting, closing.
 
 #include "review/review_test.h"
-#include "sequence_random.h"
+#include "tests/support/fake_random.h"
 
 #include <gtest/gtest.h>
 
@@ -9,8 +9,6 @@
 
 namespace tessera {
 namespace {
-
-using testing::SequenceRandom;
 
 SessionState StateWithTopics(std::vector<int16_t> counts) {
     SessionState state;
@@ -26,7 +24,7 @@ TEST(BuildAllItemsTest, TakesTheTopicsItemsInRunningOrder) {
     state.CurrentTopic = 3;
     state.TestMisses[7] = 2;
     state.SuspendedTestRecord = 5;
-    SequenceRandom random;
+    FakeRandom random;
     BuildAllItemsTest(state, random, 3600.5);
 
     EXPECT_EQ(state.TestPosition, 1);
@@ -39,7 +37,7 @@ TEST(BuildAllItemsTest, TakesTheTopicsItemsInRunningOrder) {
     EXPECT_EQ(state.TestMisses[7], 0);
     EXPECT_EQ(state.WishesLeft[1], 2);
     EXPECT_EQ(state.WishesLeft[3], 2);
-    EXPECT_TRUE(random.seeds.empty()) << "an unscrambled test leaves the source alone";
+    EXPECT_EQ(random.calls(), 0) << "an unscrambled test leaves the source alone";
 
     state.CurrentTopic = 1;
     BuildAllItemsTest(state, random, 0);
@@ -54,10 +52,12 @@ TEST(BuildAllItemsTest, ScramblesByOnePassOfExchangesSeededFromTheTimeOfDay) {
     SessionState state = StateWithTopics({4});
     state.ScrambleQuestions = true;
     // r = whole part of draw * 4, plus 1: 3, 3, 1, 4.
-    SequenceRandom random({0.5, 0.6, 0.1, 0.99});
+    FakeRandom random;
+    random.script({0.5, 0.6, 0.1, 0.99});
     BuildAllItemsTest(state, random, 45296.75);
 
-    ASSERT_EQ(random.seeds, std::vector<uint32_t>{45296});
+    ASSERT_EQ(random.seeds(), std::vector<uint32_t>{45296});
+    EXPECT_EQ(random.calls(), 4);
     // i=1,r=3: 3 2 1 4; i=2,r=3: 3 1 2 4; i=3,r=1: 2 1 3 4; i=4,r=4: unchanged.
     EXPECT_EQ(std::vector<int16_t>(state.TestItems.begin() + 1, state.TestItems.begin() + 5),
               (std::vector<int16_t>{2, 1, 3, 4}));

@@ -1,0 +1,96 @@
+// The wishes dialog: what it offers, and what OK, Cancel, the close box and Help spend.
+
+#include "review/aladdin.h"
+#include "tests/support/recording_screens.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+
+namespace tessera {
+
+class AladdinTest : public QObject {
+    Q_OBJECT
+
+private:
+    SessionState state;
+    RecordingScreenHost screens;
+
+private Q_SLOTS:
+    void init() {
+        state = SessionState{};
+        state.WishesLeft = {0, 2, 0, 1};
+        state.ActiveWish = 2;
+        screens.clearCalls();
+    }
+
+    void opensWithNoChoiceAndDropsAnArmedFreeGuess() {
+        Aladdin dialog(state, screens, 4, nullptr);
+        QCOMPARE(state.ActiveWish, 0);
+        QCOMPARE(dialog.windowTitle(), QStringLiteral("Aladdin"));
+        QCOMPARE(dialog.Label2[0]->text(), QStringLiteral(" 2"));
+        QCOMPARE(dialog.Label2[1]->text(), QStringLiteral(" 0"));
+        QVERIFY(dialog.Option1[0]->isEnabled());
+        QVERIFY(!dialog.Option1[1]->isEnabled());
+        for (QRadioButton* option : dialog.Option1)
+            QVERIFY(!option->isChecked());
+        QCOMPARE(dialog.Option1[2]->text(), QStringLiteral("Show Expert Advise"));
+    }
+
+    void offersNoCoinTossWithTwoAnswersLeft() {
+        Aladdin dialog(state, screens, 2, nullptr);
+        QVERIFY(!dialog.Option1[0]->isEnabled());
+        Aladdin three(state, screens, 3, nullptr);
+        QVERIFY(three.Option1[0]->isEnabled());
+    }
+
+    void okSpendsTheSelectedWishOnly() {
+        Aladdin dialog(state, screens, 4, nullptr);
+        QTest::mouseClick(dialog.Option1[2], Qt::LeftButton);
+        QTest::mouseClick(dialog.Command1[0], Qt::LeftButton);
+        QCOMPARE(state.ActiveWish, 3);
+        QCOMPARE(state.WishesLeft, (std::array<int16_t, 4>{0, 2, 0, 0}));
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    }
+
+    void cancelCloseBoxAndEmptyOkSpendNothing() {
+        {
+            Aladdin dialog(state, screens, 4, nullptr);
+            QTest::mouseClick(dialog.Command1[0], Qt::LeftButton);
+        }
+        {
+            Aladdin dialog(state, screens, 4, nullptr);
+            dialog.Option1[0]->setChecked(true);
+            QTest::mouseClick(dialog.Command1[1], Qt::LeftButton);
+        }
+        {
+            Aladdin dialog(state, screens, 4, nullptr);
+            dialog.show();
+            dialog.Option1[0]->setChecked(true);
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+            QVERIFY(!dialog.isVisible());
+        }
+        QCOMPARE(state.ActiveWish, 0);
+        QCOMPARE(state.WishesLeft, (std::array<int16_t, 4>{0, 2, 0, 1}));
+    }
+
+    void helpOpensTopicSixteenModally() {
+        Aladdin dialog(state, screens, 4, nullptr);
+        QTest::mouseClick(dialog.Command1[2], Qt::LeftButton);
+        QCOMPARE(state.HelpTopic, 16);
+        const std::vector<ScreenCall> expected = {{ScreenCallKind::Unload, ScreenName::Help},
+                                                  {ScreenCallKind::ShowModal, ScreenName::Help}};
+        QCOMPARE(screens.calls(), expected);
+
+        RecordingScreenHost without;
+        without.setMissing(ScreenName::Help);
+        Aladdin bare(state, without, 4, nullptr);
+        QVERIFY(!bare.Command1[2]->isEnabled());
+    }
+};
+
+} // namespace tessera
+
+QTEST_MAIN(tessera::AladdinTest)
+#include "aladdin_test.moc"
