@@ -13,9 +13,6 @@
 namespace tessera {
 namespace {
 
-using testing::FakeClock;
-using testing::FakeRandom;
-
 std::vector<int> Items(const SessionState& s) {
     return {s.ExamItems.begin() + 1, s.ExamItems.begin() + 1 + s.ExamItemCount};
 }
@@ -43,7 +40,7 @@ TEST(GapSort, SortsRowsOneToNAndMovesParallelTables) {
 
 TEST(DrawExam, DrawInRangeCoversOneToN) {
     FakeRandom random;
-    random.values = {0.0, 0.999999, 0.5};
+    random.script({0.0, 0.999999, 0.5});
     EXPECT_EQ(DrawInRange(random, 10), 1);
     EXPECT_EQ(DrawInRange(random, 10), 10);
     EXPECT_EQ(DrawInRange(random, 10), 6);
@@ -63,7 +60,7 @@ TEST_F(DrawExamTest, UnscrambledCustomExamOfTheWholePoolIsInRunningOrder) {
     state.ExamTopics.fill(false);
     state.ExamTopics[2] = state.ExamTopics[4] = state.ExamTopics[9] = true;
     state.ExamItemCount = 8; // 3 + 2 + 3
-    random.values = {0.9, 0.1, 0.6, 0.3, 0.75};
+    random.script({0.9, 0.1, 0.6, 0.3, 0.75, 0.2, 0.4, 0.8});
     state.ExamAnswers[5] = 2; // a draw clears the answers of an earlier exam
     DrawExam(state, random, clock);
     // Topic 2 holds running numbers 5..7, topic 4 13..14, topic 9 23..25.
@@ -78,11 +75,12 @@ TEST_F(DrawExamTest, CustomExamIsTheHeadOfAWholeRangeShuffle) {
     state.ExamTopics[2] = true; // pool 5, 6, 7
     state.ExamItemCount = 2;
     // i=1: r=3 -> 7 6 5; i=2: r=1 -> 6 7 5; i=3: r=3 (the last still draws) -> 6 7 5
-    random.values = {0.9, 0.1, 0.7};
+    random.script({0.9, 0.1, 0.7});
     DrawExam(state, random, clock);
     EXPECT_EQ(Items(state), (std::vector<int>{6, 7}));
     EXPECT_EQ(state.ExamPool[3], 5);
-    EXPECT_EQ(random.at, 3u);
+    EXPECT_EQ(random.calls(), 3);
+    EXPECT_EQ(random.seeds().size(), 1u); // seeded from the system's timer
 }
 
 TEST_F(DrawExamTest, ScrambledCustomExamHoldsEachItemOnceFromChosenTopics) {
@@ -90,7 +88,7 @@ TEST_F(DrawExamTest, ScrambledCustomExamHoldsEachItemOnceFromChosenTopics) {
     state.ExamTopics.fill(false);
     state.ExamTopics[1] = state.ExamTopics[3] = true; // 1..4 and 8..12
     state.ExamItemCount = 9;
-    random.values = {0.31, 0.87, 0.02, 0.55, 0.64, 0.18};
+    random.script({0.31, 0.87, 0.02, 0.55, 0.64, 0.18, 0.93, 0.47, 0.71});
     DrawExam(state, random, clock);
     const std::vector<int> items = Items(state);
     std::set<int> unique(items.begin(), items.end());
@@ -105,12 +103,12 @@ TEST_F(DrawExamTest, AuthorExamsFollowTheContentOrderUnlessScrambled) {
     DrawExam(state, random, clock);
     // Exam II starts with the item after exam I's last.
     EXPECT_EQ(Items(state), (std::vector<int>{7, 8, 9, 10, 11}));
-    EXPECT_EQ(random.at, 0u);
+    EXPECT_EQ(random.calls(), 0);
 
     state.ExamScrambled = true;
     state.ExamKind = 1;
     state.ExamItemCount = 6;
-    random.values = {0.99, 0.0};
+    random.script({0.99, 0.0, 0.99, 0.0, 0.99, 0.0});
     DrawExam(state, random, clock);
     // Draws alternate 6 and 1: 6 2 3 4 5 1, 2 6 3 4 5 1, 2 6 1 4 5 3, 4 6 1 2 5 3, ...
     EXPECT_EQ(Items(state), (std::vector<int>{5, 6, 1, 2, 3, 4}));

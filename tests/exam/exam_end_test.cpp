@@ -14,10 +14,6 @@
 namespace tessera {
 namespace {
 
-using testing::FakeClock;
-using testing::FakeRandom;
-using testing::ScriptedDialogs;
-
 class ExamEndTest : public ::testing::Test {
 protected:
     void SetUp() override {
@@ -54,6 +50,7 @@ protected:
     }
     ExamEndOutcome Close(bool finishPressed) {
         if (finishPressed) {
+            dialogs.answer(MessageAnswer::Ok);
             session->pressFinished(dialogs);
         }
         session->beginClosing();
@@ -74,7 +71,7 @@ TEST_F(ExamEndTest, NothingCommittedLeavesNoRecordAndNoResults) {
     Start(5);
     session->pressAnswer(0); // answered, never committed
     const ExamEndOutcome end = Close(true);
-    EXPECT_EQ(dialogs.shown.size(), 1u); // "You failed to answer 5 questions."
+    EXPECT_EQ(dialogs.messages().size(), 1u); // "You failed to answer 5 questions."
     EXPECT_FALSE(end.saved);
     EXPECT_FALSE(end.showResults);
     EXPECT_EQ(state.ExamPosition, 0);
@@ -87,7 +84,7 @@ TEST_F(ExamEndTest, UncommittedAnswerCountsAsUnansweredAndTheTakeCounterRises) {
     Answer(8, 0);
     session->pressAnswer(state.ExamKey[state.ExamPosition] - 1); // right, but not committed
     const ExamEndOutcome end = Close(true);
-    EXPECT_TRUE(dialogs.shown[0].text.startsWith(QStringLiteral("You failed to answer 2 ")));
+    EXPECT_TRUE(dialogs.messages()[0].text.startsWith(QStringLiteral("You failed to answer 2 ")));
     EXPECT_TRUE(end.showResults);
     EXPECT_FLOAT_EQ(state.ExamScore, 0.8f);
     EXPECT_EQ(state.ExamAnswers[9], 0);
@@ -106,7 +103,7 @@ TEST_F(ExamEndTest, ExactlyThirtyPercentIsKept) {
     Answer(3, 7);
     const ExamEndOutcome end = Close(true);
     EXPECT_FALSE(end.removed);
-    EXPECT_TRUE(dialogs.shown.empty());
+    EXPECT_TRUE(dialogs.messages().empty());
     EXPECT_EQ(ReadExamRecords().size(), 1u);
     EXPECT_EQ(state.TakeCounts[10], 0);
 }
@@ -129,13 +126,13 @@ TEST_F(ExamEndTest, BelowThirtyPercentIsRemovedButLoggedAndAReviewTestSurvives) 
     const ExamEndOutcome end = Close(true); // 20 of 67 right: 29.85%
     EXPECT_TRUE(end.removed);
     EXPECT_TRUE(end.showResults);
-    ASSERT_EQ(dialogs.shown.size(), 2u);
-    EXPECT_EQ(dialogs.shown[1].text,
+    ASSERT_EQ(dialogs.messages().size(), 2u);
+    EXPECT_EQ(dialogs.messages()[1].text,
               QStringLiteral("You answered 29.9% (less than 30%) of the questions correctly. "
                              "Therefore, this exam has not been recorded on your Exam Report "
                              "Card."));
-    EXPECT_EQ(dialogs.shown[1].title, QStringLiteral("Sorry!"));
-    EXPECT_EQ(dialogs.shown[1].icon, MessageIcon::Question);
+    EXPECT_EQ(dialogs.messages()[1].title, QStringLiteral("Sorry!"));
+    EXPECT_EQ(dialogs.messages()[1].icon, MessageIcon::Question);
     EXPECT_TRUE(ReadExamRecords().empty());
     ASSERT_EQ(ReadReviewTestRecords().size(), 1u);
     EXPECT_EQ(state.SuspendedTestRecord, 2);
@@ -163,6 +160,7 @@ TEST_F(ExamEndTest, BreakingOffTwiceLeavesOneRecordAndResumesInANewRun) {
     resumed.open();
     EXPECT_EQ(resumed.list(AnsweredList).rows(), 4);
     EXPECT_EQ(next.ExamPosition, 5);
+    dialogs.answer(MessageAnswer::Ok);
     ASSERT_TRUE(resumed.pressFinished(dialogs));
     resumed.beginClosing();
     const ExamEndOutcome end = EndExam(next, true, 4, clock.now(), dialogs, {});

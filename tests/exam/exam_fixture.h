@@ -1,65 +1,16 @@
 #pragma once
-// A small course and the clock, random and dialog doubles the exam tests share.
+// A small course for the exam tests, beside the shared clock, random and dialog doubles.
 
 #include "core/session_state.h"
-#include "platform/clock.h"
-#include "platform/dialogs.h"
-#include "platform/random_source.h"
+#include "tests/support/fake_clock.h"
+#include "tests/support/fake_random.h"
+#include "tests/support/scripted_dialogs.h"
 
 #include <cstdio>
-#include <deque>
-#include <functional>
 #include <string>
 #include <vector>
 
 namespace tessera::testing {
-
-class FakeClock final : public Clock {
-public:
-    DateValue current = 46000.5; // noon of a day in 2025
-    DateValue now() const override { return current; }
-    double secondsSinceMidnight() const override { return 43200; }
-    bool setTimeOfDay(int, int, int) override { return false; }
-    void advanceSeconds(double seconds) { current += seconds / 86400.0; }
-};
-
-// Plays back a list of draws, round and round.
-class FakeRandom final : public Random {
-public:
-    std::vector<double> values{0.5};
-    std::size_t at = 0;
-    double next() override { return values[at++ % values.size()]; }
-    void seed(uint32_t) override {}
-};
-
-struct ShownMessage {
-    QString text;
-    QString title;
-    MessageIcon icon;
-    MessageButtons buttons;
-};
-
-// Answers message boxes from a script (Ok when the script runs out) and keeps every one shown.
-class ScriptedDialogs final : public Dialogs {
-public:
-    std::deque<MessageAnswer> answers;
-    std::vector<ShownMessage> shown;
-    std::function<void()> whileShown; // time passing while the box is up, for instance
-    MessageAnswer message(const QString& text, const QString& title, MessageIcon icon,
-                          MessageButtons buttons) override {
-        shown.push_back({text, title, icon, buttons});
-        if (whileShown) {
-            whileShown();
-        }
-        if (answers.empty()) {
-            return MessageAnswer::Ok;
-        }
-        const MessageAnswer answer = answers.front();
-        answers.pop_front();
-        return answer;
-    }
-    QString input(const QString&, const QString&, const QString&) override { return {}; }
-};
 
 // The right letter of item ordinal j: A, B, C, D, A, ...
 inline char KeyLetter(int j) {

@@ -8,9 +8,23 @@
 namespace tessera {
 namespace {
 
-using testing::FakeClock;
-using testing::FakeRandom;
-using testing::ScriptedDialogs;
+// Time passes while a message box is up.
+class SlowDialogs final : public Dialogs {
+public:
+    SlowDialogs(ScriptedDialogs& script, FakeClock& clock) : m_script(script), m_clock(clock) {}
+    MessageAnswer message(const QString& text, const QString& title, MessageIcon icon,
+                          MessageButtons buttons) override {
+        m_clock.advanceSeconds(30);
+        return m_script.message(text, title, icon, buttons);
+    }
+    QString input(const QString& prompt, const QString& title, const QString& initial) override {
+        return m_script.input(prompt, title, initial);
+    }
+
+private:
+    ScriptedDialogs& m_script;
+    FakeClock& m_clock;
+};
 
 class ExamSessionTest : public ::testing::Test {
 protected:
@@ -168,17 +182,20 @@ TEST_F(ExamSessionTest, FinishedAsksWithTheRemainingCountAndCancelStopsTheClock)
     s.pressAnswer(0);
     s.pressNext();
     s.pressAnswer(1); // answered, not committed: still counts as unanswered
-    dialogs.answers = {MessageAnswer::Cancel};
-    dialogs.whileShown = [this] { clock.advanceSeconds(30); };
+    dialogs.answer(MessageAnswer::Cancel);
+    dialogs.answer(MessageAnswer::Ok);
+    SlowDialogs slow(dialogs, clock);
     clock.advanceSeconds(60);
-    EXPECT_FALSE(s.pressFinished(dialogs));
-    ASSERT_EQ(dialogs.shown.size(), 1u);
-    EXPECT_EQ(dialogs.shown[0].text, QStringLiteral("You failed to answer 4 questions.\r\nPress "
-                                                    "O.K. to stop and view scoring results or "
-                                                    "Cancel to keep working."));
-    EXPECT_EQ(dialogs.shown[0].title, QStringLiteral("Caution..."));
+    EXPECT_FALSE(s.pressFinished(slow));
+    ASSERT_EQ(dialogs.messages().size(), 1u);
+    EXPECT_EQ(dialogs.messages()[0].text,
+              QStringLiteral("You failed to answer 4 questions.\r\nPress "
+                             "O.K. to stop and view scoring results or "
+                             "Cancel to keep working."));
+    EXPECT_EQ(dialogs.messages()[0].title, QStringLiteral("Caution..."));
+    EXPECT_EQ(dialogs.messages()[0].buttons, MessageButtons::OkCancel);
     EXPECT_FALSE(s.examFinished());
-    EXPECT_TRUE(s.pressFinished(dialogs));
+    EXPECT_TRUE(s.pressFinished(slow));
     EXPECT_TRUE(s.examFinished());
     s.beginClosing();
     // The first question's half minute is not counted; after OK the clock ran on.
@@ -213,7 +230,7 @@ TEST_F(ExamSessionTest, ClockWarnsAtTwoMinutesAndExpiresAtTheLimit) {
     EXPECT_TRUE(s.itemRtf().empty());
     EXPECT_EQ(s.takeFocus(), ExamFocus::Finished);
     EXPECT_TRUE(s.pressFinished(dialogs)); // no question once time is up
-    EXPECT_TRUE(dialogs.shown.empty());
+    EXPECT_TRUE(dialogs.messages().empty());
     clock.advanceSeconds(300);
     s.beginClosing();
     EXPECT_DOUBLE_EQ(state.ExamElapsed, 10 / 1440.0); // exactly the limit
