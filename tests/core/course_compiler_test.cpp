@@ -1,0 +1,146 @@
+#include "core/content_file.h"
+#include "core/item_text.h"
+#include "course/compiler/content_check.h"
+#include "course/compiler/content_writer.h"
+#include "course/compiler/rtf_text.h"
+
+#include <gtest/gtest.h>
+
+using namespace tessera;
+using namespace tessera::course;
+
+namespace {
+
+const char* const TopicSource = R"(; a comment
+=== C
+Which **one** is *right*? Cost {x} \* café
+01 begins with digits.
+A. First
+B. Second
+C. Third
+D. Fourth
+---
+Because C.
+)";
+
+Course SmallCourse(std::vector<SourceError>& errors) {
+    Course course;
+    course.prologue = "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\n\\f0 !\n";
+    for (int t = 1; t <= 9; ++t)
+        course.topics[t] = ParseItems(TopicSource, "topics/t.txt", errors);
+    course.topics[2].clear();
+    course.exams[2] = ParseItems(std::string(TopicSource) + TopicSource, "exams/2.txt", errors);
+    course.glossary = ParseGlossary("Acre :: 43,560 square feet.\nZoning :: Public rules.\n",
+                                    "glossary.txt", errors);
+    for (int i = 1; i <= 7; ++i)
+        course.texts[i] = ParseText("# Title\nBody *text*.\n.\n- a point\n", "texts/t.txt");
+    for (int h = 1; h <= 17; ++h)
+        course.help[h] = ParseText("Help " + std::to_string(h) + "\n", "help/h.txt");
+    return course;
+}
+
+std::string ProgramText(const std::string& file) {
+    return file.substr(0, file.size() - 1);
+}
+
+std::vector<std::string> Messages(const std::vector<SourceError>& errors) {
+    std::vector<std::string> messages;
+    for (const SourceError& e : errors)
+        messages.push_back(Describe(e));
+    return messages;
+}
+
+} // namespace
+
+TEST(CourseCompiler, WritesWhatTheCutReadsBack) {
+    std::vector<SourceError> errors;
+    const std::string file = WriteContent(SmallCourse(errors), errors);
+    ASSERT_TRUE(errors.empty()) << Messages(errors)[0];
+    EXPECT_EQ(file.find('\n'), file.find("\r\n") + 1) << "lines end in CR LF";
+
+    const ContentSummary summary = CheckContent(ProgramText(file));
+    ASSERT_TRUE(summary.violations.empty()) << summary.violations[0].message;
+    EXPECT_EQ(OkLine(summary), "ok: 8 review items (1 0 1 1 1 1 1 1 1), 2 exam items (0 2), "
+                               "2 glossary entries, 7 texts, 17 help texts");
+
+    SessionState state;
+    FillCatalogue(state);
+    CutContent(ProgramText(file), state.catalogue, state.content);
+    const CourseContent& c = state.content;
+    EXPECT_EQ(c.RtfHeader, "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\r\n\\f0 ");
+    EXPECT_EQ(c.ReviewItems[2].substr(0, 12), "\\par 03001C\r");
+    EXPECT_EQ(ItemAnswerLetter(c.ExamItemTexts[2]), 'C');
+    EXPECT_EQ(c.ExamItemTexts[2].substr(0, 11), "\\par 02002C");
+    EXPECT_EQ(ItemQuestion(c.ReviewItems[1]),
+              "Which \\b one\\b0  is \\i right\\i0 ? Cost \\{x\\} * caf\\'e9\r\n"
+              "\\par {}01 begins with digits.\r\n\\par A. First\r\n\\par B. Second\r\n"
+              "\\par C. Third\r\n\\par D. Fourth\r\n\\par \r\n");
+    EXPECT_EQ(ItemExplanation(c.ReviewItems[1]), "\r\n\\par Because C.\r\\par }\r\n");
+    EXPECT_EQ(GlossaryTerm(c.GlossaryEntries[1]), "Acre");
+    EXPECT_EQ(GlossaryDefinition(c.GlossaryEntries[2]), "Public rules.\r\n\\par }\r\n");
+    EXPECT_EQ(c.TextSections[3],
+              "\\pard\\qc\\b Title\\b0 \r\n\\par \\pard Body \\i text\\i0 .\r\n"
+              "\\par \r\n\\par \\pard\\fi-240\\li360 \\'95\\tab a point\\par }\r\n");
+    EXPECT_EQ(c.HelpTexts[17], "Help 17\r\n\\par }\r");
+}
+
+TEST(CourseCompiler, SourceErrorsNameFileAndLine) {
+    std::vector<SourceError> errors;
+    ParseItems("=== E\nQ?\nA. a\nB. b\nD. d\n---\nWhy.\n=== A\nQ\nA. a\nB. b\nC. c\nD. d\n",
+               "topics/3-x.txt", errors);
+    ParseGlossary("Zoning :: rules\nAcre :: land\nNo separator\n", "glossary.txt", errors);
+    InlineRtf({{"help/01-a.txt", 4}, "an arrow \xE2\x86\x92 and **open"}, errors);
+    EXPECT_EQ(Messages(errors), (std::vector<std::string>{
+                                    "topics/3-x.txt:1: answer letter \"E\" is not one of A to D",
+                                    "topics/3-x.txt:5: expected choice \"C. \"",
+                                    "topics/3-x.txt:1: item with fewer than four choices",
+                                    "topics/3-x.txt:8: item without \"---\" and an explanation",
+                                    "glossary.txt:2: \"Acre\" is out of alphabetical order",
+                                    "glossary.txt:3: expected \"term :: definition\"",
+                                    "help/01-a.txt:4: a character that Windows-1252 lacks",
+                                    "help/01-a.txt:4: \"**\" opened and not closed",
+                                }));
+}
+
+TEST(CourseCompiler, CheckListsEveryViolationByLine) {
+    std::vector<SourceError> errors;
+    std::string file = ProgramText(WriteContent(SmallCourse(errors), errors));
+    auto lineOf = [&](const std::string& text) {
+        const size_t at = file.find(text);
+        return static_cast<int>(std::count(file.begin(), file.begin() + at, '\n')) + 1;
+    };
+    auto replace = [&](const std::string& from, const std::string& to) {
+        file.replace(file.find(from), from.size(), to);
+    };
+    replace("\\par 04001C", "\\par 04001E");
+    replace("\\par 05001C\r\n", "\\par 05001C\r\n\\par 05 inside\r\n");
+    replace("\\par 06001C", "\\par 06001X");
+    file.replace(file.find("\\par *", file.find("\\par 06001X")), 8, "");
+    replace("\\par  Public rules.\r\n", "");
+    file.replace(file.find("\\par D. Fourth\r\n\\par \r\n", file.find("\\par 07001C")) + 16, 7, "");
+    const int letter = lineOf("\\par 04001E");
+    const int inside = lineOf("\\par 05 inside");
+    const int noMarker = lineOf("\\par 06001X");
+    const int choice = lineOf("\\par 07001C") + 6;
+    const ContentSummary summary = CheckContent(file);
+    std::vector<std::pair<int, std::string>> found;
+    for (const Violation& v : summary.violations)
+        found.emplace_back(v.line, v.message);
+    const int zoning = lineOf("\\par Zoning");
+    EXPECT_EQ(found, (std::vector<std::pair<int, std::string>>{
+                         {zoning, "glossary entry without a definition"},
+                         {letter, "answer letter \"E\" outside A to D"},
+                         {inside - 1, "item without its explanation marker"},
+                         {inside - 1, "item without choice A"},
+                         {inside, "a header line inside an item, or a broken item header"},
+                         {noMarker, "answer letter \"X\" outside A to D"},
+                         {noMarker, "item without its explanation marker"},
+                         {choice, "no \"\\par \" behind the last choice"},
+                     }));
+
+    file += "\r\n\\par ^";
+    EXPECT_EQ(CheckContent(file).violations.back().message, "section marker beyond the eleventh");
+    EXPECT_EQ(CheckContent(file.substr(0, file.find("\\par 01\r\n\\par Acre"))).violations.size(),
+              2u)
+        << "four markers missing, and no glossary header";
+}
