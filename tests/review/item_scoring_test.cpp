@@ -2,7 +2,6 @@
 
 #include "review/coin_toss.h"
 #include "review/item_scoring.h"
-#include "review/review_item.h"
 #include "review/review_text.h"
 #include "tests/support/fake_random.h"
 
@@ -131,17 +130,6 @@ TEST(CoinToss, CutLeavesABlankLineWhereTheAnswerStood) {
     const std::string before = question;
     CutAnswerText(question, 0, "\r\n");
     EXPECT_EQ(question, before) << "an answer already cut is passed over";
-}
-
-TEST(ReviewItem, CutsLetterQuestionAndExplanation) {
-    const std::string item = "\\par 03007B\r\n\\par Which?\r\n\\par A. One\r\n\\par B. Two\r\n"
-                             "\\par \r\n\\par *\r\n\\par Because.\\par }\r\n";
-    const ReviewItemParts parts = CutReviewItem(item);
-    EXPECT_EQ(parts.rightAnswer, B);
-    EXPECT_EQ(parts.question, "Which?\r\n\\par A. One\r\n\\par B. Two\r\n\\par \r\n");
-    EXPECT_EQ(parts.explanation, "\r\n\\par Because.\\par }\r\n");
-    EXPECT_EQ(CutReviewItem("\\par 03").rightAnswer, 0) << "a short item cuts to nothing";
-    EXPECT_TRUE(CutReviewItem("\\par 03007C\r\n\\par no marker").explanation.empty());
 }
 
 } // namespace
