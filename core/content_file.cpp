@@ -3,7 +3,6 @@
 #include "core/content_format.h"
 
 #include <fstream>
-#include <iterator>
 
 namespace tessera {
 
@@ -184,10 +183,17 @@ private:
 } // namespace
 
 std::string ReadContentText(const std::string& fileName) {
-    std::ifstream in(fileName, std::ios::binary);
-    std::string text{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-    if (!text.empty())
-        text.pop_back(); // the last byte is not part of the text
+    std::ifstream in(fileName, std::ios::binary | std::ios::ate);
+    if (!in)
+        return {};
+    const std::streamoff size = in.tellg();
+    if (size <= 0)
+        return {};
+    // The last byte is not part of the text.
+    std::string text(static_cast<size_t>(size - 1), '\0');
+    in.seekg(0);
+    in.read(text.data(), static_cast<std::streamsize>(text.size()));
+    text.resize(static_cast<size_t>(in.gcount()));
     return text;
 }
 
