@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <tuple>
 
 using namespace tessera;
 
@@ -75,82 +76,71 @@ TEST(Records, HeaderFieldsStandAtTheirOffsets) {
     EXPECT_EQ(state.UserName.size(), 30u);
 }
 
-TEST(Records, ReviewTestFieldsStandAtTheirOffsets) {
-    RecordBytes b{};
-    b[0] = 4;
-    b[11] = 0x02; // position 0x0102, low byte first
-    b[12] = 0x01;
-    b[13] = 0xFE; // furthest -2
-    b[14] = 0xFF;
-    b[15] = 40;
-    b[17] = 3;
-    b[21] = 0x3F; // score 0.5 = 0x3F000000
-    b[20] = 0x00;
-    b[25] = 0x40; // tries ratio 2.0 = 0x40000000
-    b[26] = 1;
-    b[30] = 0x42; // minutes 64.0 = 0x42800000
-    b[29] = 0x80;
-    b[31] = 9;
-    b[35] = 12;
-    b[37] = 1;
-    b[39] = 2;
-    b[40] = 0x1C; // item 796 = 0x031C
-    b[41] = 0x03;
-    b[638] = 7;
-    b[640] = 2;
-    b[939] = 4;
-    const ReviewTestRecord t = DecodeReviewTest(b);
-    EXPECT_EQ(t.Topic, 4);
-    EXPECT_EQ(t.Position, 0x0102);
-    EXPECT_EQ(t.Furthest, -2);
-    EXPECT_EQ(t.ItemCount, 40);
-    EXPECT_EQ(t.TestType, 3);
-    EXPECT_EQ(t.Score, 0.5f);
-    EXPECT_EQ(t.TriesRatio, 2.0f);
-    EXPECT_EQ(t.Scrambled, 1);
-    EXPECT_EQ(t.MinutesUsed, 64.0f);
-    EXPECT_EQ(t.Tally[1], 9);
-    EXPECT_EQ(t.Tally[3], 12);
-    EXPECT_EQ(t.WishesLeft[1], 1);
-    EXPECT_EQ(t.WishesLeft[3], 2);
-    EXPECT_EQ(t.Items[1], 796);
-    EXPECT_EQ(t.Items[300], 7);
-    EXPECT_EQ(t.Misses[1], 2);
-    EXPECT_EQ(t.Misses[300], 4);
+namespace {
+
+// The little-endian value of size bytes at offset.
+uint32_t At(const RecordBytes& b, int offset, int size) {
+    uint32_t value = 0;
+    for (int i = size - 1; i >= 0; --i)
+        value = value << 8 | b[offset + i];
+    return value;
 }
 
-TEST(Records, ExamFieldsStandAtTheirOffsets) {
-    RecordBytes b{};
-    b[0] = 12;
-    b[13] = 150;
-    b[15] = 149;
-    b[17] = 6;
-    b[22] = 3;
-    b[24] = 1;
-    b[28] = 0x3F; // minutes 1.0 = 0x3F800000
-    b[27] = 0x80;
-    b[29] = 195;
-    b[30] = 1;
-    b[31] = 1;
-    b[39] = 1;
-    b[42] = 0x2C; // item 2 = 300
-    b[43] = 0x01;
-    b[641] = 80;
-    const ExamRecord e = DecodeExam(b);
-    EXPECT_EQ(e.Kind, 12);
-    EXPECT_EQ(e.ItemCount, 150);
-    EXPECT_EQ(e.AnsweredCount, 149);
-    EXPECT_EQ(e.ExamType, 6);
-    EXPECT_EQ(e.UnsureCount, 3);
-    EXPECT_EQ(e.Scrambled, 1);
-    EXPECT_EQ(e.MinutesUsed, 1.0f);
-    EXPECT_EQ(e.TimeLimit, 195);
-    EXPECT_EQ(e.Structured, 1);
-    EXPECT_EQ(e.Topics[1], 1);
-    EXPECT_EQ(e.Topics[2], 0);
-    EXPECT_EQ(e.Topics[9], 1);
-    EXPECT_EQ(e.Items[2], 300);
-    EXPECT_EQ(e.AnswerCodes[2], 80);
+using Field = std::tuple<int, int, uint32_t>; // offset, size, expected bytes
+
+} // namespace
+
+TEST(Records, TestAndExamFieldsStandAtTheirOffsets) {
+    ReviewTestRecord t;
+    t.Topic = 4;
+    t.Date = "11-19-2026";
+    t.Position = 0x0102;
+    t.Furthest = -2;
+    t.ItemCount = 40;
+    t.TestType = 3;
+    t.Score = 0.5f;
+    t.TriesRatio = 2.0f;
+    t.Scrambled = 1;
+    t.MinutesUsed = 64.0f;
+    t.Tally = {0, 9, 10, 12};
+    t.WishesLeft = {0, 1, 0, 2};
+    t.Items[1] = 796;
+    t.Items[300] = 7;
+    t.Misses[1] = 2;
+    t.Misses[300] = 4;
+    const RecordBytes r = EncodeReviewTest(t);
+    for (const auto& [offset, size, value] :
+         {Field{0, 1, 4}, Field{11, 2, 0x0102}, Field{13, 2, 0xFFFE}, Field{15, 2, 40},
+          Field{17, 1, 3}, Field{18, 4, 0x3F000000}, Field{22, 4, 0x40000000}, Field{26, 1, 1},
+          Field{27, 4, 0x42800000}, Field{31, 2, 9}, Field{33, 2, 10}, Field{35, 2, 12},
+          Field{37, 1, 1}, Field{38, 1, 0}, Field{39, 1, 2}, Field{40, 2, 796}, Field{638, 2, 7},
+          Field{640, 1, 2}, Field{939, 1, 4}})
+        EXPECT_EQ(At(r, offset, size), value) << "review test offset " << offset;
+    EXPECT_EQ(std::string(r.begin() + 1, r.begin() + 11), "11-19-2026");
+
+    ExamRecord e;
+    e.Kind = 12;
+    e.Position = 7;
+    e.ItemCount = 150;
+    e.AnsweredCount = 149;
+    e.ExamType = 6;
+    e.Score = 1.0f;
+    e.UnsureCount = 3;
+    e.Scrambled = 1;
+    e.MinutesUsed = 2.0f;
+    e.TimeLimit = 195;
+    e.Structured = 1;
+    e.Topics[1] = 1;
+    e.Topics[9] = 1;
+    e.Items[2] = 300;
+    e.AnswerCodes[2] = 80;
+    const RecordBytes x = EncodeExam(e);
+    for (const auto& [offset, size, value] :
+         {Field{0, 1, 12}, Field{11, 2, 7}, Field{13, 2, 150}, Field{15, 2, 149}, Field{17, 1, 6},
+          Field{18, 4, 0x3F800000}, Field{22, 2, 3}, Field{24, 1, 1}, Field{25, 4, 0x40000000},
+          Field{29, 1, 195}, Field{30, 1, 1}, Field{31, 1, 1}, Field{32, 1, 0}, Field{39, 1, 1},
+          Field{42, 2, 300}, Field{641, 1, 80}})
+        EXPECT_EQ(At(x, offset, size), value) << "exam offset " << offset;
 }
 
 TEST(Records, AnswerCodeFollowsTheTableBothWays) {
