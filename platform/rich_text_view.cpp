@@ -1,0 +1,140 @@
+#include "platform/rich_text_view.h"
+
+#include "platform/printer.h"
+#include "platform/rtf_reader.h"
+#include "platform/rtf_writer.h"
+
+#include <QFile>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QTextDocumentFragment>
+
+#include <algorithm>
+
+namespace tessera {
+
+RichTextView::RichTextView(QWidget* parent) : QTextEdit(parent) {
+    setAcceptRichText(true);
+    setTabChangesFocus(false);
+}
+
+void RichTextView::setTextRtf(std::string_view rtf) {
+    readRtf(rtf, *document());
+    setTextCursor(QTextCursor(document()));
+}
+
+std::string RichTextView::textRtf() const {
+    return writeRtf(*document());
+}
+
+QString RichTextView::text() const {
+    return plainTextOf(*document());
+}
+
+int RichTextView::selStart() const {
+    return textCursor().selectionStart();
+}
+
+int RichTextView::selLength() const {
+    const QTextCursor cursor = textCursor();
+    return cursor.selectionEnd() - cursor.selectionStart();
+}
+
+namespace {
+
+int lastPosition(const QTextDocument& document) {
+    return std::max(0, document.characterCount() - 1);
+}
+
+} // namespace
+
+void RichTextView::setSelStart(int start) {
+    QTextCursor cursor(document());
+    cursor.setPosition(std::clamp(start, 0, lastPosition(*document())));
+    setTextCursor(cursor);
+}
+
+void RichTextView::setSelLength(int length) {
+    QTextCursor cursor = textCursor();
+    const int start = cursor.selectionStart();
+    cursor.setPosition(start);
+    cursor.setPosition(std::clamp(start + length, 0, lastPosition(*document())),
+                       QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
+}
+
+QString RichTextView::selText() const {
+    QString text = textCursor().selectedText();
+    text.replace(QChar(QChar::ParagraphSeparator), QChar(u'\n'));
+    text.replace(QChar(QChar::LineSeparator), QChar(u'\n'));
+    text.replace(QChar(QChar::Nbsp), QChar(u' '));
+    return text;
+}
+
+std::string RichTextView::selRtf() const {
+    return writeRtf(textCursor());
+}
+
+bool RichTextView::loadFile(const QString& fileName) {
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray bytes = file.readAll();
+    setTextRtf(std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+    return true;
+}
+
+bool RichTextView::saveFile(const QString& fileName) const {
+    QFile file(fileName);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        return false;
+    const std::string rtf = textRtf();
+    return file.write(rtf.data(), static_cast<qint64>(rtf.size())) ==
+           static_cast<qint64>(rtf.size());
+}
+
+void RichTextView::selPrint(Printer& printer) const {
+    const QTextCursor cursor = textCursor();
+    if (!cursor.hasSelection()) {
+        printer.printDocument(*document());
+        return;
+    }
+    QTextDocument selection;
+    selection.setDefaultFont(document()->defaultFont());
+    QTextCursor(&selection).insertFragment(cursor.selection());
+    printer.printDocument(selection);
+}
+
+void RichTextView::setRightMargin(int twips) {
+    m_rightMarginTwips = std::max(0, twips);
+    if (m_rightMarginTwips == 0) {
+        setLineWrapMode(QTextEdit::WidgetWidth);
+    } else {
+        setLineWrapMode(QTextEdit::FixedPixelWidth);
+        setLineWrapColumnOrWidth(static_cast<int>(twipsToPixels(m_rightMarginTwips)));
+    }
+}
+
+void RichTextView::setCopyOnly(bool copyOnly) {
+    m_copyOnly = copyOnly;
+    setReadOnly(copyOnly);
+    if (copyOnly)
+        setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+}
+
+void RichTextView::keyPressEvent(QKeyEvent* event) {
+    // Keys that type a character are dropped, save the copy key; moving keys still move.
+    if (m_copyOnly && !event->matches(QKeySequence::Copy) && !event->text().isEmpty()) {
+        event->accept();
+        return;
+    }
+    QTextEdit::keyPressEvent(event);
+}
+
+void RichTextView::insertFromMimeData(const QMimeData* source) {
+    if (m_copyOnly)
+        return;
+    QTextEdit::insertFromMimeData(source);
+}
+
+} // namespace tessera

@@ -1,0 +1,11 @@
+// GoogleTest programs whose code needs fonts and images run inside a QGuiApplication.
+
+#include <QGuiApplication>
+
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv) {
+    QGuiApplication app(argc, argv);
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,151 @@
+#include "platform/rtf_reader.h"
+
+#include <QBuffer>
+#include <QFont>
+#include <QImage>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+
+#include <gtest/gtest.h>
+
+namespace tessera {
+namespace {
+
+const std::string Header = "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0\\fswiss Arial;}{\\f1\\fmodern "
+                           "Courier New;}}{\\colortbl ;\\red255\\green0\\blue0;}\r\n";
+
+QString textOf(const std::string& rtf) {
+    QTextDocument document;
+    readRtf(rtf, document);
+    return plainTextOf(document);
+}
+
+// The character format at a position, as the cursor sees the character behind it.
+QTextCharFormat formatAt(const QTextDocument& document, int position) {
+    QTextCursor cursor(const_cast<QTextDocument*>(&document));
+    cursor.setPosition(position + 1);
+    return cursor.charFormat();
+}
+
+TEST(RtfReader, KeepsCharacterFormatting) {
+    QTextDocument document;
+    readRtf(Header + "\\pard\\f0\\fs24 plain {\\b bold} \\i italic\\i0  \\ul under\\ulnone  "
+                     "\\f1\\fs32\\cf1 red}",
+            document);
+    const QString text = plainTextOf(document);
+    ASSERT_EQ(text, QStringLiteral("plain bold italic under red"));
+    EXPECT_EQ(formatAt(document, 0).fontWeight(), QFont::Normal);
+    EXPECT_EQ(formatAt(document, text.indexOf(u"bold")).fontWeight(), QFont::Bold);
+    EXPECT_TRUE(formatAt(document, text.indexOf(u"italic")).fontItalic());
+    EXPECT_FALSE(formatAt(document, text.indexOf(u"under")).fontItalic());
+    EXPECT_TRUE(formatAt(document, text.indexOf(u"under")).fontUnderline());
+    const QTextCharFormat red = formatAt(document, text.indexOf(u"red"));
+    EXPECT_FALSE(red.fontUnderline());
+    EXPECT_EQ(red.fontPointSize(), 16);
+    EXPECT_EQ(red.fontFamilies().toStringList(), QStringList{QStringLiteral("Courier New")});
+    EXPECT_EQ(red.foreground().color(), QColor(255, 0, 0));
+    EXPECT_EQ(formatAt(document, 0).fontPointSize(), 12);
+}
+
+TEST(RtfReader, KeepsParagraphFormatting) {
+    QTextDocument document;
+    readRtf(Header + "\\pard\\qc Centre\\par\\pard\\li720\\ri360\\fi-360\\tx1440\\tqr\\tx4320 "
+                     "a\\tab b\\tab c\\par\\pard\\qr Right\\par \\qj Justified\\line next}",
+            document);
+    EXPECT_EQ(plainTextOf(document), QStringLiteral("Centre\na\tb\tc\nRight\nJustified\nnext"));
+    const QTextBlock centre = document.firstBlock();
+    EXPECT_EQ(centre.blockFormat().alignment() & Qt::AlignHorizontal_Mask, Qt::AlignHCenter);
+    const QTextBlockFormat indented = centre.next().blockFormat();
+    EXPECT_EQ(indented.leftMargin(), 48);
+    EXPECT_EQ(indented.rightMargin(), 24);
+    EXPECT_EQ(indented.textIndent(), -24);
+    ASSERT_EQ(indented.tabPositions().size(), 2);
+    EXPECT_EQ(indented.tabPositions()[0].position, 96);
+    EXPECT_EQ(indented.tabPositions()[1].type, QTextOption::RightTab);
+    EXPECT_EQ(indented.alignment() & Qt::AlignHorizontal_Mask, Qt::AlignLeft);
+    EXPECT_EQ(centre.next().next().blockFormat().alignment() & Qt::AlignHorizontal_Mask,
+              Qt::AlignRight);
+    EXPECT_EQ(document.lastBlock().blockFormat().alignment() & Qt::AlignHorizontal_Mask,
+              Qt::AlignJustify);
+}
+
+TEST(RtfReader, DecodesWindows1252AndUnicode) {
+    // Raw byte 151 and \'97 are both the long dash; \'e9 is e acute.
+    EXPECT_EQ(textOf(Header + "a\x97 b\\'97 caf\\'e9 \\'80}"),
+              QStringLiteral("a\u2014 b\u2014 café €"));
+    EXPECT_EQ(textOf(Header + "\\uc1\\u8212? \\uc2\\u233\\'e9\\'e9 x\\uc0\\u65 y}"),
+              QStringLiteral("\u2014 é xAy"));
+    // A character beyond the basic plane comes as two \u halves.
+    EXPECT_EQ(textOf(Header + "\\u-10179?\\u-8704?}"), QString::fromUtf8("\xF0\x9F\x98\x80"));
+    EXPECT_EQ(textOf(Header + "\\lquote a\\rquote  \\ldblquote b\\rdblquote  c\\emdash d\\endash "
+                              "\\bullet}"),
+              QStringLiteral("\u2018a\u2019 \u201Cb\u201D c\u2014d\u2013\u2022"));
+    EXPECT_EQ(textOf(Header + "a\\~b\\-c\\_d \\{\\}\\\\}"),
+              QStringLiteral("a b\u00ADc\u2011d {}\\"));
+}
+
+TEST(RtfReader, DecodesOtherCodePagesThroughIconv) {
+    EXPECT_EQ(textOf("{\\rtf1\\ansi\\ansicpg1251 \\'cf\\'f0\\'e8}"), QStringLiteral("При"));
+    EXPECT_EQ(textOf("{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}{\\f1\\fcharset161 Arial Greek;}}"
+                     "\\f0 \\'e1 \\f1 \\'e1}"),
+              QStringLiteral("á α"));
+    EXPECT_EQ(textOf("{\\rtf1\\ansi\\ansicpg932 \\'93\\'fa\\'96\\'7b}"), QStringLiteral("日本"));
+}
+
+TEST(RtfReader, StopsAtTheFirstBalancedClosingBrace) {
+    // A fragment that brings its own closing, joined before the document's closing.
+    EXPECT_EQ(textOf(Header + "Question\\par }\\par }more text"), QStringLiteral("Question\n"));
+    EXPECT_EQ(textOf(Header + "{\\b a}{b}}c}"), QStringLiteral("ab"));
+}
+
+TEST(RtfReader, SkipsDestinationsThatHoldNoText) {
+    EXPECT_EQ(textOf("{\\rtf1{\\info{\\title T}{\\author A}}{\\stylesheet{\\s1 Heading;}}"
+                     "{\\header H}{\\footer F}{\\*\\generator G;}{\\*\\unknown U}"
+                     "{\\field{\\*\\fldinst HYPERLINK x}{\\fldrslt shown}} b\\bin3 }}}c}"),
+              QStringLiteral("shown bc"));
+    EXPECT_EQ(textOf("{\\rtf1\\trowd\\cellx1000\\cellx2000\\pard\\intbl one\\cell two\\cell"
+                     "\\row\\pard after}"),
+              QStringLiteral("one\ttwo\nafter"));
+}
+
+TEST(RtfReader, ReadsPictures) {
+    QImage image(4, 3, QImage::Format_RGB32);
+    image.fill(Qt::blue);
+    QByteArray png;
+    QBuffer buffer(&png);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    QTextDocument document;
+    readRtf("{\\rtf1 a{\\pict\\pngblip\\picw4\\pich3\\picwgoal120\\pichgoal90 " +
+                png.toHex().toStdString() + "}b{\\pict\\wmetafile8 0102}c}",
+            document);
+    EXPECT_EQ(plainTextOf(document), QStringLiteral("a\uFFFCbc"));
+    const QTextImageFormat picture = formatAt(document, 1).toImageFormat();
+    EXPECT_EQ(picture.width(), 8);
+    EXPECT_EQ(document.resource(QTextDocument::ImageResource, QUrl(picture.name()))
+                  .value<QImage>()
+                  .size(),
+              QSize(4, 3));
+}
+
+TEST(RtfReader, SurvivesMalformedInput) {
+    EXPECT_EQ(textOf("{\\rtf1 unbalanced {\\b bold"), QStringLiteral("unbalanced bold"));
+    EXPECT_EQ(textOf("{\\rtf1 a\\"), QStringLiteral("a"));
+    EXPECT_EQ(textOf("{\\rtf1 a\\'4"), QStringLiteral("a"));
+    EXPECT_EQ(textOf("{\\rtf1\\fs99999999999999999999\\li-99999999999999999 big}"),
+              QStringLiteral("big"));
+    EXPECT_EQ(textOf("{\\rtf1 x\\bin99999999999 lost}"), QStringLiteral("x"));
+    const std::string deep =
+        "{\\rtf1 a" + std::string(100000, '{') + "hidden" + std::string(100000, '}') + "b}";
+    EXPECT_EQ(textOf(deep), QStringLiteral("ab"));
+    std::string noise;
+    for (int i = 0; i < 20000; ++i)
+        noise += static_cast<char>((i * 7919) % 256);
+    QTextDocument document;
+    readRtf("{\\rtf1 " + noise, document); // any text at all, and no crash
+    EXPECT_EQ(textOf("plain text\r\nsecond line"), QStringLiteral("plain text\nsecond line"));
+}
+
+} // namespace
+} // namespace tessera
