@@ -1,12 +1,14 @@
 #include "app/screen_registrations.h"
 
 #include "core/core_screens.h"
+#include "exam/exam_screens.h"
 
 namespace tessera {
 
 // Each subsystem adds its include above and its one line here.
 void RegisterAllScreens(ScreenRegistry& registry) {
     RegisterCoreScreens(registry);
+    RegisterExamScreens(registry);
 }
 
 } // namespace tessera

@@ -1,6 +1,7 @@
 #include "exam/exam_items.h"
 
 #include "core/item_text.h"
+#include "core/rich_text_documents.h"
 #include "core/session_state.h"
 
 namespace tessera {
@@ -33,14 +34,13 @@ int ExamItemPicture(const SessionState& state, int position) {
 }
 
 std::string ExamQuestionRtf(const SessionState& state, int position) {
-    return state.content.RtfHeader + ItemQuestion(ExamItemText(state, position)) + "\\par }";
+    return QuestionDocument(state.content.RtfHeader, ItemQuestion(ExamItemText(state, position)));
 }
 
 std::string ExamExplainedRtf(const SessionState& state, int position) {
     const std::string& fragment = ExamItemText(state, position);
-    return state.content.RtfHeader + ItemQuestion(fragment) + std::string(15, ' ') +
-           std::string(25, '\x97') + "\\par " + state.catalogue.CrLf + ItemExplanation(fragment) +
-           "\\par }";
+    return QuestionWithExplanationDocument(state.content.RtfHeader, ItemQuestion(fragment),
+                                           ItemExplanation(fragment));
 }
 
 } // namespace tessera

@@ -1,0 +1,35 @@
+#include "exam/exam_widgets.h"
+
+#include "core/screen_host.h"
+
+#include <QFontDatabase>
+#include <QWidget>
+
+namespace tessera {
+
+QFont FixedPitchFont() {
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setStyleHint(QFont::Monospace);
+    font.setFixedPitch(true);
+    return font;
+}
+
+void SetNavigationEnabled(ScreenHost& screens, bool enabled) {
+    QWidget* menu = screens.find(ScreenName::ButtonMenu);
+    if (menu == nullptr) {
+        return;
+    }
+    menu->setEnabled(enabled);
+    if (enabled && menu->isMinimized()) {
+        menu->showNormal();
+    }
+}
+
+void NameControl(QWidget* control, const char* array, int index, const QString& accessibleName) {
+    control->setObjectName(index < 0 ? QString::fromLatin1(array)
+                                     : QString::fromLatin1(array) + QLatin1Char('_') +
+                                           QString::number(index));
+    control->setAccessibleName(accessibleName);
+}
+
+} // namespace tessera

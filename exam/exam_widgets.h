@@ -1,0 +1,30 @@
+#pragma once
+// Small helpers the three exam screens share: fonts, texts, and the navigation screen's state.
+
+#include <QFont>
+#include <QString>
+
+#include <string>
+
+class QWidget;
+
+namespace tessera {
+
+class ScreenHost;
+
+// The fixed-pitch font in which the system shows its lists and figures.
+QFont FixedPitchFont();
+
+// A text of the system, one byte a character, for a widget.
+inline QString Text(const std::string& text) {
+    return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+// The navigation screen is disabled while an exam screen is open; on closing it is enabled
+// again and, if minimised, restored.
+void SetNavigationEnabled(ScreenHost& screens, bool enabled);
+
+// Names a control as the system does, List1(0) as "List1_0", and gives it an accessible name.
+void NameControl(QWidget* control, const char* array, int index, const QString& accessibleName);
+
+} // namespace tessera
