@@ -81,8 +81,9 @@ void ExamSet::buildControls() {
     Label2 = new QLabel;
     Label2->setFont(FixedPitchFont());
     NameControl(Label2, "Label2", -1, QStringLiteral("Items Available in Pool"));
-    topicsLayout->addSpacing(6);
+    topicsLayout->addSpacing(12);
     topicsLayout->addWidget(Label2);
+    topicsLayout->addStretch();
 
     const std::array<const char*, 3> captions{"&Take Exam", "&Cancel", "&Help"};
     auto* buttons = new QHBoxLayout;
@@ -179,10 +180,8 @@ void ExamSet::showForm() {
     for (int i = 0; i < 2; ++i) {
         List1[i]->setEnabled(m_form.listsEnabled());
         List1[i]->setCurrentRow(rows[i]);
-        if (rows[i] >= 0) {
-            List1[i]->scrollToItem(List1[i]->item(rows[i]), QAbstractItemView::PositionAtCenter);
-        }
     }
+    centreSelectedRows();
     for (int i = 0; i < TopicCount; ++i) {
         Check2[i]->setChecked(m_form.topicChecked(i));
         Check2[i]->setEnabled(m_form.topicsEnabled());
@@ -214,6 +213,19 @@ void ExamSet::Command1_Click(int index) {
         }
         break;
     }
+}
+
+void ExamSet::centreSelectedRows() {
+    for (QListWidget* list : List1) {
+        if (list->currentItem() != nullptr) {
+            list->scrollToItem(list->currentItem(), QAbstractItemView::PositionAtCenter);
+        }
+    }
+}
+
+void ExamSet::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    centreSelectedRows();
 }
 
 void ExamSet::closeEvent(QCloseEvent* event) {

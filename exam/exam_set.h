@@ -29,11 +29,13 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     void buildControls();
     void wireControls();
     void showForm(); // puts the form's values into the widgets
+    void centreSelectedRows();
     void Command1_Click(int index);
 
     ScreenContext& m_context;

@@ -117,8 +117,9 @@ QWidget* ExamTest::buildSidePanel() {
         List1[i] = new QListWidget;
         NameControl(List1[i], "List1", i, headings[i] + QStringLiteral(" items"));
         List1[i]->setFont(FixedPitchFont());
-        List1[i]->setMinimumWidth(
-            List1[i]->fontMetrics().horizontalAdvance(QStringLiteral("0000  A?")) + 28);
+        const int rowWidth = List1[i]->fontMetrics().horizontalAdvance(QStringLiteral("0000  A?"));
+        List1[i]->setMinimumWidth(rowWidth + 28);
+        List1[i]->setMaximumWidth(rowWidth + 60);
         auto* heading = new QLabel(headings[i]);
         heading->setBuddy(List1[i]);
         lists->addWidget(heading, 0, i);

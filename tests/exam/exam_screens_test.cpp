@@ -179,6 +179,25 @@ private Q_SLOTS:
         QVERIFY(shown(ScreenName::Results)); // 1 of 2 right: 50%
     }
 
+    void pictureComesAndGoesWithItsItem() {
+        state.ExamKind = state.ExamType = 3;
+        state.ExamScrambled = false;
+        state.ExamItemCount = 3;
+        state.ExamTopics.fill(false);
+        state.ExamTopics[2] = true; // running numbers 5 to 7
+        state.content.ItemPicture[5] = 1;
+        ExamTest exam(context);
+        const ScreenCall loadPicture{ScreenCallKind::Load, ScreenName::PictForm};
+        const ScreenCall unloadPicture{ScreenCallKind::Unload, ScreenName::PictForm};
+        QCOMPARE(screens.calls().back(), loadPicture);
+        QVERIFY(control<QPushButton>(&exam, "Command1_12")->isEnabled());
+        click(&exam, "Command1_5");
+        QCOMPARE(screens.calls().back(), unloadPicture);
+        QVERIFY(!control<QPushButton>(&exam, "Command1_12")->isEnabled());
+        click(&exam, "Command1_6");
+        QCOMPARE(screens.calls().back(), loadPicture); // shown again on a revisit
+    }
+
     void resultsShowsTheSummarySortsAndAsksOnDone() {
         state.ExamKind = 3;
         state.ExamItemCount = 3;

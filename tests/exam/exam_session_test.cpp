@@ -236,6 +236,22 @@ TEST_F(ExamSessionTest, ClockWarnsAtTwoMinutesAndExpiresAtTheLimit) {
     EXPECT_DOUBLE_EQ(state.ExamElapsed, 10 / 1440.0); // exactly the limit
 }
 
+TEST_F(ExamSessionTest, RetakeKeepsItsPositionsAndStartsWithNoAnswer) {
+    state.ExamType = 5;
+    state.ExamItemCount = 2;
+    state.ExamItems[1] = 4;
+    state.ExamItems[2] = 2;
+    state.ExamAnswers[1] = 3;
+    state.ExamAnswered[1] = -1;
+    ExamSession& s = open();
+    EXPECT_EQ(state.ExamItems[1], 4);
+    EXPECT_EQ(state.ExamAnswers[1], 0);
+    EXPECT_EQ(state.ExamAnswered[1], 0);
+    EXPECT_EQ(s.answerLabel(), "Your Answer:  ");
+    EXPECT_EQ(s.windowCaption(), "Screening Exam I, Item 1 of 2");
+    EXPECT_EQ(state.ExamKey[1], 4); // item 4 of exam I, not position 1's old item
+}
+
 TEST_F(ExamSessionTest, ResumeListsCommittedAnswersAndShowsTheFirstRemaining) {
     state.ExamPosition = 4;
     state.ExamElapsed = 2.0 / 1440;

@@ -1,0 +1,155 @@
+// The screening exam screens in the states a candidate meets them: the builder for an
+// author-prepared and a custom exam, the exam in both approaches with items answered, unsure
+// and remaining, the two-minute warning, time expired, and the results.
+
+#include "core/content_file.h"
+#include "course/compiler/content_writer.h"
+#include "course/compiler/course_source.h"
+#include "exam/exam_items.h"
+#include "exam/exam_set.h"
+#include "exam/exam_test.h"
+#include "exam/results.h"
+#include "tests/gallery/gallery.h"
+#include "tests/support/full_course_generator.h"
+
+#include <QListWidget>
+#include <QPushButton>
+
+#include <algorithm>
+#include <filesystem>
+
+namespace tessera {
+
+namespace {
+
+// The default course, compiled from its source as the program would read it; the made-up
+// full-size course where the source does not compile.
+void LoadCourse(SessionState& state) {
+    std::vector<course::SourceError> errors;
+    const course::Course source =
+        course::ReadCourse(std::filesystem::path(TESSERA_SOURCE_ROOT) / "course", errors);
+    std::string file = errors.empty() ? course::WriteContent(source, errors) : std::string();
+    if (!errors.empty() || file.size() < 2) {
+        file = FullCourseContent();
+    }
+    CutContent(std::string_view(file.data(), file.size() - 1), state.catalogue, state.content);
+}
+
+void Press(QWidget* screen, int index) {
+    screen->findChild<QPushButton*>(QStringLiteral("Command1_%1").arg(index))->click();
+}
+
+// A custom exam of 20 items from the first four topics, traditional, half an hour.
+ExamTest* CustomExam(GalleryScene& scene, int structured) {
+    LoadCourse(scene.state);
+    SessionState& s = scene.state;
+    s.ExamKind = s.ExamType = 3;
+    s.ExamItemCount = 20;
+    s.ExamMinutes = 30;
+    s.ExamStructured = static_cast<int16_t>(structured);
+    s.ExamTopics.fill(false);
+    for (int t = 1; t <= 4; ++t) {
+        s.ExamTopics[t] = true;
+    }
+    return new ExamTest(scene.context);
+}
+
+const GalleryEntry authorBuilder("exam_builder_author_prepared", [](GalleryScene& scene) {
+    LoadCourse(scene.state);
+    scene.state.TakeCounts[10] = 1;
+    scene.state.TakeCounts[12] = 2;
+    return new ExamSet(scene.context);
+});
+
+const GalleryEntry customBuilder("exam_builder_custom", [](GalleryScene& scene) {
+    LoadCourse(scene.state);
+    SessionState& s = scene.state;
+    s.TakeCounts[10] = 3;
+    s.TakeCounts[11] = 3;
+    s.ExamKind = 3;
+    s.ExamItemCount = 60;
+    s.ExamMinutes = 90;
+    s.ExamStructured = 1;
+    s.ExamTopics[2] = s.ExamTopics[8] = false;
+    return new ExamSet(scene.context);
+});
+
+const GalleryEntry traditional("exam_test_traditional", [](GalleryScene& scene) -> QWidget* {
+    ExamTest* exam = CustomExam(scene, 0);
+    // Items 1 to 5 answered, the third one unsure; item 6 passed over; item 7 on screen with
+    // an answer not yet committed.
+    for (int answer : {1, 3, 0, 2, 1}) {
+        Press(exam, answer);
+        if (scene.state.ExamPosition == 3) {
+            Press(exam, 10);
+        }
+        Press(exam, 5);
+    }
+    Press(exam, 5); // item 6 passed over
+    Press(exam, 2);
+    return exam;
+});
+
+const GalleryEntry structured("exam_test_structured", [](GalleryScene& scene) -> QWidget* {
+    ExamTest* exam = CustomExam(scene, 1);
+    for (int answer : {0, 2, 3}) {
+        Press(exam, answer);
+        Press(exam, 5);
+        Press(exam, 6);
+    }
+    Press(exam, 1);
+    Press(exam, 1);
+    Press(exam, 3); // a third answer marks the item unsure by itself
+    return exam;
+});
+
+// A suspended exam resumed with little time left: the clock reads at once on opening.
+ExamTest* Resumed(GalleryScene& scene, double minutesUsed) {
+    LoadCourse(scene.state);
+    SessionState& s = scene.state;
+    s.ExamKind = s.ExamType = 2;
+    s.ExamItemCount = std::min<int16_t>(s.content.ItemCounts[2][2], 150);
+    s.ExamMinutes = 195;
+    s.ExamPosition = 12;
+    s.ExamElapsed = minutesUsed / 1440.0;
+    const int base = s.content.ItemCounts[1][2];
+    for (int p = 1; p <= s.ExamItemCount; ++p) {
+        s.ExamItems[p] = static_cast<int16_t>(base + p);
+        s.ExamAnswers[p] = p < s.ExamItemCount - 6 ? static_cast<int16_t>(1 + p % 4) : 0;
+        s.ExamUnsure[p] = p % 17 == 0 ? 63 : 0;
+    }
+    return new ExamTest(scene.context);
+}
+
+const GalleryEntry warning("exam_test_two_minute_warning",
+                           [](GalleryScene& scene) -> QWidget* { return Resumed(scene, 193.5); });
+
+const GalleryEntry expired("exam_test_time_expired",
+                           [](GalleryScene& scene) -> QWidget* { return Resumed(scene, 195.1); });
+
+const GalleryEntry results("exam_results", [](GalleryScene& scene) -> QWidget* {
+    LoadCourse(scene.state);
+    SessionState& s = scene.state;
+    s.ExamKind = s.ExamType = 3;
+    s.ExamItemCount = 40;
+    s.ExamScrambled = true;
+    s.ExamElapsed = (52 * 60 + 17) / 86400.0;
+    int right = 0;
+    for (int p = 1; p <= 40; ++p) {
+        s.ExamItems[p] = static_cast<int16_t>((p * 37) % 700 + 1);
+        // Mostly right; every fifth wrong, every ninth left unanswered.
+        const int key = ExamKeyOf(ExamItemText(s, p));
+        const int answer = p % 9 == 0 ? 0 : (p % 5 == 0 ? key % 4 + 1 : key);
+        s.ExamAnswers[p] = static_cast<int16_t>(answer);
+        s.ExamUnsure[p] = answer != 0 && p % 6 == 0 ? 63 : 0;
+        right += answer == key ? 1 : 0;
+    }
+    s.ExamScore = static_cast<float>(right) / 40.0f;
+    auto* screen = new Results(scene.context);
+    screen->findChild<QListWidget*>(QStringLiteral("List1"))->setCurrentRow(4);
+    return screen;
+});
+
+} // namespace
+
+} // namespace tessera
