@@ -6,6 +6,11 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <sys/wait.h>
+
 using namespace tessera;
 using namespace tessera::course;
 
@@ -143,4 +148,61 @@ TEST(CourseCompiler, CheckListsEveryViolationByLine) {
     EXPECT_EQ(CheckContent(file.substr(0, file.find("\\par 01\r\n\\par Acre"))).violations.size(),
               2u)
         << "four markers missing, and no glossary header";
+}
+
+namespace {
+
+void Write(const std::filesystem::path& path, const std::string& text) {
+    if (path.has_parent_path())
+        std::filesystem::create_directories(path.parent_path());
+    std::ofstream(path, std::ios::binary) << text;
+}
+
+// Runs the tool and gives its exit code and its output's last line.
+std::pair<int, std::string> RunTool(const std::string& arguments) {
+    const std::string command = std::string(TESSERA_COURSE_TOOL) + " " + arguments + " 2>&1";
+    FILE* pipe = popen(command.c_str(), "r");
+    std::string output;
+    char buffer[512];
+    while (pipe && fgets(buffer, sizeof buffer, pipe))
+        output = buffer;
+    const int status = pipe ? pclose(pipe) : -1;
+    return {WEXITSTATUS(status), output};
+}
+
+} // namespace
+
+TEST(CourseCompiler, ReadsAFolderAndBuildsAFileThatChecks) {
+    const std::filesystem::path folder = "course-source";
+    std::filesystem::remove_all(folder);
+    std::filesystem::remove("Tessera");
+    Write(folder / "prologue.rtf", "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\\f0 !\n");
+    Write(folder / "topics/2-second.txt", TopicSource);
+    std::string figure = TopicSource;
+    figure.replace(figure.find("=== C"), 5, "=== C figure");
+    Write(folder / "topics/6-sixth.txt", figure);
+    Write(folder / "exams/1-first.txt", std::string(TopicSource) + TopicSource);
+    Write(folder / "help/17-last.txt", "The end.\n");
+    Write(folder / "glossary.txt", "Acre :: 43,560 square feet.\n");
+
+    std::vector<SourceError> errors;
+    Course course = ReadCourse(folder, errors);
+    EXPECT_EQ(Messages(errors), std::vector<std::string>{"topics/6-sixth.txt:2: only the picture "
+                                                         "items may be marked \"figure\" (topic 6 "
+                                                         "item 8, topic 9 item 75)"});
+    EXPECT_EQ(course.topics[2].size(), 1u);
+    EXPECT_EQ(course.exams[1].size(), 2u);
+    EXPECT_EQ(course.help[17].paragraphs.at(0).text, "The end.");
+    EXPECT_EQ(course.glossary.at(0).definition, "43,560 square feet.");
+    EXPECT_EQ(RunTool("build course-source Tessera").first, 1) << "a source error writes nothing";
+    EXPECT_FALSE(std::filesystem::exists("Tessera"));
+
+    Write(folder / "topics/6-sixth.txt", TopicSource);
+    EXPECT_EQ(RunTool("build course-source Tessera").first, 0);
+    EXPECT_EQ(
+        RunTool("check Tessera"),
+        (std::pair<int, std::string>{0, "ok: 2 review items (0 1 0 0 0 1 0 0 0), 2 exam items "
+                                        "(2 0), 1 glossary entries, 7 texts, 17 help texts\n"}));
+    Write("Broken", "{\\rtf1 !\r\n\\par ^\r\n");
+    EXPECT_EQ(RunTool("check Broken").first, 1);
 }
