@@ -1,6 +1,5 @@
 #include "platform/rtf_control_words.h"
 
-#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -170,15 +169,51 @@ constexpr bool sortedByName() {
     }
     return true;
 }
-static_assert(sortedByName(), "the control words must stay sorted");
+static_assert(sortedByName(), "the control words stay sorted, so that each appears once");
+
+// An open-addressing table over the words: a control word is looked up for every one read.
+class WordTable {
+public:
+    WordTable() {
+        m_slots.fill(-1);
+        for (std::size_t i = 0; i < Words.size(); ++i) {
+            std::size_t slot = hash(Words[i].first) & Mask;
+            while (m_slots[slot] >= 0)
+                slot = (slot + 1) & Mask;
+            m_slots[slot] = static_cast<int16_t>(i);
+        }
+    }
+
+    RtfWord find(std::string_view name) const {
+        for (std::size_t slot = hash(name) & Mask;; slot = (slot + 1) & Mask) {
+            const int16_t entry = m_slots[slot];
+            if (entry < 0)
+                return RtfWord::Unknown;
+            if (Words[static_cast<std::size_t>(entry)].first == name)
+                return Words[static_cast<std::size_t>(entry)].second;
+        }
+    }
+
+private:
+    static constexpr std::size_t Size = 1024;
+    static constexpr std::size_t Mask = Size - 1;
+    static_assert(Size > 2 * Words.size());
+
+    static std::size_t hash(std::string_view name) {
+        uint32_t h = 2166136261u;
+        for (char c : name)
+            h = (h ^ static_cast<uint8_t>(c)) * 16777619u;
+        return h;
+    }
+
+    std::array<int16_t, Size> m_slots{};
+};
 
 } // namespace
 
 RtfWord lookupRtfWord(std::string_view name) {
-    const auto found = std::lower_bound(
-        Words.begin(), Words.end(), name,
-        [](const Entry& entry, std::string_view key) { return entry.first < key; });
-    return found != Words.end() && found->first == name ? found->second : RtfWord::Unknown;
+    static const WordTable table;
+    return table.find(name);
 }
 
 } // namespace tessera

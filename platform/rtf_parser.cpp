@@ -59,8 +59,7 @@ void RtfParser::read() {
             textBytes();
         }
     }
-    flushRun();
-    m_cursor.setBlockFormat(m_formats.blockFormat(m_state.para));
+    closeBlock();
     m_cursor.endEditBlock();
 }
 
@@ -98,6 +97,10 @@ bool RtfParser::closeGroup() {
 
 void RtfParser::textBytes() {
     const Destination destination = m_overflowDepth > 0 ? Destination::Skip : m_state.destination;
+    if (destination == Destination::Text && !m_state.codePage->hasLeadBytes()) {
+        plainBytes();
+        return;
+    }
     while (m_p < m_end) {
         const unsigned char c = static_cast<unsigned char>(*m_p);
         if (c == '{' || c == '}' || c == '\\' || c == '\r' || c == '\n')

@@ -52,8 +52,12 @@ private:
 
     // Text
     void byte(unsigned char c);
+    bool startText();
     void character(char16_t unit);
+    void plainBytes();
     void flushRun();
+    void openBlock();
+    void closeBlock();
     void endParagraph();
     void skipBinary(int count);
 
@@ -82,8 +86,9 @@ private:
     int m_charsToSkip = 0;
     int m_pendingLead = -1;
     bool m_pendingCell = false;
+    bool m_blockPending = false;
 
-    QString m_run;
+    std::u16string m_run; // the text of one format, waiting to be inserted
     RtfCharState m_runChars;
     RtfParaState m_blockPara;
 

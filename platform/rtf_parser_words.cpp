@@ -326,39 +326,85 @@ void RtfParser::byte(unsigned char c) {
         character(unit);
 }
 
-void RtfParser::character(char16_t unit) {
+bool RtfParser::startText() {
     if (m_state.destination != Destination::Text || m_state.chars.has(RtfCharState::Hidden))
-        return;
+        return false;
     if (m_state.chars.key() != m_runChars.key()) {
         flushRun();
         m_runChars = m_state.chars;
     }
     if (m_pendingCell) {
         m_pendingCell = false;
-        m_run += QChar(u'\t');
+        m_run.push_back(u'\t');
     }
-    m_run += QChar(unit);
+    return true;
+}
+
+void RtfParser::character(char16_t unit) {
+    if (startText())
+        m_run.push_back(unit);
+}
+
+void RtfParser::plainBytes() {
+    const CodePage& page = *m_state.codePage;
+    bool started = false;
+    while (m_p < m_end) {
+        const unsigned char c = static_cast<unsigned char>(*m_p);
+        if (c == '{' || c == '}' || c == '\\' || c == '\r' || c == '\n')
+            return;
+        ++m_p;
+        if (m_charsToSkip > 0) {
+            --m_charsToSkip;
+            continue;
+        }
+        const char16_t unit = page.unit(c);
+        if (unit < 0x20 && unit != '\t')
+            continue;
+        if (!started) {
+            if (!startText())
+                continue;
+            started = true;
+        }
+        m_run.push_back(unit);
+    }
 }
 
 void RtfParser::flushRun() {
-    if (m_run.isEmpty())
+    if (m_run.empty())
         return;
-    m_cursor.insertText(m_run, m_formats.charFormat(m_runChars));
+    openBlock();
+    m_cursor.insertText(QString::fromRawData(reinterpret_cast<const QChar*>(m_run.data()),
+                                             static_cast<qsizetype>(m_run.size())),
+                        m_formats.charFormat(m_runChars));
     m_run.clear();
+}
+
+// A paragraph's block is made when its first text comes, so that it takes its format from the
+// state of that moment; a change before the paragraph's end is set at the end.
+void RtfParser::openBlock() {
+    if (!m_blockPending)
+        return;
+    m_blockPending = false;
+    m_cursor.insertBlock(m_formats.blockFormat(m_state.para), m_formats.charFormat(m_state.chars));
+    m_blockPara = m_state.para;
+}
+
+void RtfParser::closeBlock() {
+    flushRun();
+    openBlock();
+    if (!(m_state.para == m_blockPara)) {
+        m_cursor.setBlockFormat(m_formats.blockFormat(m_state.para));
+        m_blockPara = m_state.para;
+    }
 }
 
 void RtfParser::endParagraph() {
     if (m_state.destination != Destination::Text)
         return;
-    flushRun();
+    closeBlock();
     m_pendingCell = false;
     m_pendingLead = -1;
-    const QTextBlockFormat& format = m_formats.blockFormat(m_state.para);
-    if (!(m_state.para == m_blockPara)) {
-        m_cursor.setBlockFormat(format);
-        m_blockPara = m_state.para;
-    }
-    m_cursor.insertBlock(format, m_formats.charFormat(m_state.chars));
+    m_blockPending = true;
 }
 
 void RtfParser::skipBinary(int count) {
@@ -419,6 +465,7 @@ void RtfParser::insertPicture() {
     format.setWidth(width * m_pictureScaleX / 100.0);
     format.setHeight(height * m_pictureScaleY / 100.0);
     flushRun();
+    openBlock();
     m_cursor.insertImage(format);
 }
 
