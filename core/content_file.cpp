@@ -202,11 +202,10 @@ void CutContent(std::string_view text, const CourseCatalogue& catalogue, CourseC
 }
 
 bool LoadContent(SessionState& state) {
-    std::ifstream probe(std::string(ContentFile), std::ios::binary);
-    if (!probe)
+    const std::string& name = state.catalogue.ContentFileName;
+    if (!std::ifstream(name, std::ios::binary))
         return false;
-    probe.close();
-    const std::string text = ReadContentText(std::string(ContentFile));
+    const std::string text = ReadContentText(name);
     state.content = CourseContent{};
     CutContent(text, state.catalogue, state.content);
     return true;

@@ -18,8 +18,8 @@ std::string ReadContentText(const std::string& fileName);
 // text. Tables the text does not reach stay empty.
 void CutContent(std::string_view text, const CourseCatalogue& catalogue, CourseContent& content);
 
-// Start-up: reads Tessera from the current directory and cuts it into state.content. False when
-// the file cannot be read.
+// Start-up: reads the content file Tessera (ContentFileName of the catalogue, filled first) from
+// the current directory and cuts it into state.content. False when the file cannot be read.
 bool LoadContent(SessionState& state);
 
 } // namespace tessera

@@ -6,7 +6,6 @@
 
 namespace tessera {
 
-inline constexpr std::string_view ContentFile = "Tessera";
 inline constexpr std::string_view CrLfText = "\r\n";
 inline constexpr std::string_view ParagraphMark = "\\par ";
 inline constexpr std::string_view SectionMarker = "\\par ^";
