@@ -77,6 +77,10 @@ public:
         line(std::string(ParagraphMark) + header);
         for (const SourceLine& p : item.stem)
             paragraph(p);
+        // The choices must stand as "\par A." exactly, so none can reset a heading's format.
+        if (m_formatted)
+            m_errors.push_back({item.stem.back().place,
+                                "a heading or bullet cannot stand right in front of the choices"});
         for (int c = 0; c < 4; ++c) {
             const std::string letter(1, static_cast<char>('A' + c));
             line(std::string(ParagraphMark) + letter + ". " + InlineRtf(item.choices[c], m_errors));

@@ -95,16 +95,23 @@ TEST(CourseCompiler, SourceErrorsNameFileAndLine) {
                "topics/3-x.txt", errors);
     ParseGlossary("Zoning :: rules\nAcre :: land\nNo separator\n", "glossary.txt", errors);
     InlineRtf({{"help/01-a.txt", 4}, "an arrow \xE2\x86\x92 and **open"}, errors);
-    EXPECT_EQ(Messages(errors), (std::vector<std::string>{
-                                    "topics/3-x.txt:1: answer letter \"E\" is not one of A to D",
-                                    "topics/3-x.txt:5: expected choice \"C. \"",
-                                    "topics/3-x.txt:1: item with fewer than four choices",
-                                    "topics/3-x.txt:8: item without \"---\" and an explanation",
-                                    "glossary.txt:2: \"Acre\" is out of alphabetical order",
-                                    "glossary.txt:3: expected \"term :: definition\"",
-                                    "help/01-a.txt:4: a character that Windows-1252 lacks",
-                                    "help/01-a.txt:4: \"**\" opened and not closed",
-                                }));
+    Course course = SmallCourse(errors);
+    course.topics[1] = ParseItems("=== A\n- a bullet\nA. a\nB. b\nC. c\nD. d\n---\nWhy.\n",
+                                  "topics/1-a.txt", errors);
+    WriteContent(course, errors);
+    EXPECT_EQ(
+        Messages(errors),
+        (std::vector<std::string>{
+            "topics/3-x.txt:1: answer letter \"E\" is not one of A to D",
+            "topics/3-x.txt:5: expected choice \"C. \"",
+            "topics/3-x.txt:1: item with fewer than four choices",
+            "topics/3-x.txt:8: item without \"---\" and an explanation",
+            "glossary.txt:2: \"Acre\" is out of alphabetical order",
+            "glossary.txt:3: expected \"term :: definition\"",
+            "help/01-a.txt:4: a character that Windows-1252 lacks",
+            "help/01-a.txt:4: \"**\" opened and not closed",
+            "topics/1-a.txt:2: a heading or bullet cannot stand right in front of the choices",
+        }));
 }
 
 TEST(CourseCompiler, CheckListsEveryViolationByLine) {
