@@ -1,10 +1,12 @@
 #include "app/application.h"
 
+#include "app/real_services.h"
 #include "app/screen_registrations.h"
 
 #include <QApplication>
 #include <QEvent>
 #include <QEventLoop>
+#include <QThread>
 #include <QWidget>
 
 namespace tessera {
@@ -47,9 +49,25 @@ int WindowSlotOf(ScreenName name) {
     return 0;
 }
 
+Application::Application() : Application(std::make_unique<RealServices>()) {}
+
+Application::Application(std::unique_ptr<RealServices> own)
+    : m_ownServices(std::move(own)),
+      m_services(m_ownServices->services), m_context{m_state, m_services, *this} {
+    RegisterAllScreens(m_registry);
+    takeOverTheEnd();
+}
+
 Application::Application(Services& services)
     : m_services(services), m_context{m_state, m_services, *this} {
     RegisterAllScreens(m_registry);
+    takeOverTheEnd();
+}
+
+void Application::takeOverTheEnd() {
+    // Only the navigation screen ends the program; the last window closing, a message box of
+    // start-up or a modal screen, must not.
+    QApplication::setQuitOnLastWindowClosed(false);
 }
 
 Application::~Application() {
@@ -138,7 +156,10 @@ void Application::endProgram() {
         }
     }
     m_loaded.clear();
-    QCoreApplication::exit(0);
+    // Without a running loop there is nothing to leave; exit would also stop every loop
+    // started later in this thread.
+    if (QThread::currentThread()->loopLevel() > 0)
+        QCoreApplication::exit(0);
 }
 
 bool Application::eventFilter(QObject* watched, QEvent* event) {
@@ -152,9 +173,11 @@ bool Application::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void Application::forget(QObject* screen) {
-    // By now the pointer to it reads null; a fresh copy under the same name stays.
-    Q_UNUSED(screen)
-    std::erase_if(m_loaded, [](const auto& entry) { return entry.second.isNull(); });
+    // A widget announces its end before its pointers read null; a fresh copy loaded under the
+    // same name meanwhile stays.
+    std::erase_if(m_loaded, [screen](const auto& entry) {
+        return entry.second.isNull() || entry.second.data() == screen;
+    });
 }
 
 void Application::placeWindow(ScreenName name, QWidget* screen) const {

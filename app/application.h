@@ -10,15 +10,20 @@
 #include <QPointer>
 
 #include <map>
+#include <memory>
 
 namespace tessera {
+
+struct RealServices;
 
 class Application final : public QObject, public ScreenHost {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(Application)
 
 public:
-    // The services are the caller's: the real ones in main, doubles in tests and the gallery.
+    // The program itself, with the machine's own services.
+    Application();
+    // The given services, which stay the caller's: doubles in tests.
     explicit Application(Services& services);
     ~Application() override;
 
@@ -43,10 +48,13 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    explicit Application(std::unique_ptr<RealServices> own);
+    static void takeOverTheEnd();
     void forget(QObject* screen);
     void placeWindow(ScreenName name, QWidget* screen) const;
     void storeWindowPlace(ScreenName name, const QWidget* screen);
 
+    std::unique_ptr<RealServices> m_ownServices;
     Services& m_services;
     SessionState m_state;
     ScreenRegistry m_registry;

@@ -97,7 +97,6 @@ void ButtonMenu::buildControls() {
 
     auto* options = new QFrame(this);
     options->setFrameShape(QFrame::StyledPanel);
-    options->setMinimumWidth(270);
     auto* optionColumn = new QVBoxLayout(options);
     optionColumn->setContentsMargins(14, 14, 14, 14);
     optionColumn->setSpacing(14);
@@ -110,7 +109,6 @@ void ButtonMenu::buildControls() {
         "&Discussion and Guidelines", "General &Help"};
     for (int i = 0; i < 6; ++i) {
         Option1[i] = new QRadioButton(QString::fromLatin1(optionCaptions[i]), options);
-        scaleFont(Option1[i], 1.1, false);
         optionColumn->addWidget(Option1[i]);
     }
     optionColumn->addStretch();
@@ -184,7 +182,7 @@ void ButtonMenu::buildControls() {
     }
     showFrame(NoFrame);
     disableMissingScreens();
-    resize(800, 560);
+    resize(760, 540);
 }
 
 QGroupBox* ButtonMenu::makeFrame(int index, const char* caption) {
@@ -201,8 +199,10 @@ QPushButton* ButtonMenu::makeCommand(QGroupBox* frame, const char* array, int in
                                      const QString& caption) {
     auto* button = new QPushButton(caption, frame);
     button->setObjectName(QStringLiteral("%1_%2").arg(QLatin1String(array)).arg(index));
-    // The frame's title is bold; its buttons keep the normal type.
-    button->setFont(font());
+    // The frame's title is bold; its buttons are not.
+    QFont plain = frame->font();
+    plain.setBold(false);
+    button->setFont(plain);
     button->setAutoDefault(true); // Enter presses the button that has the focus
     button->setMinimumHeight(button->sizeHint().height() + 6);
     frame->layout()->addWidget(button);

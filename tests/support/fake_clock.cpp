@@ -14,25 +14,33 @@ FakeClock::FakeClock() {
     setDateTime(2026, 11, 19, 9, 0, 0);
 }
 
-double FakeClock::secondsSinceMidnight() const {
-    return (m_now - std::floor(m_now)) * SecondsPerDay;
+DateValue FakeClock::now() const {
+    return m_day + m_seconds / SecondsPerDay;
 }
 
 bool FakeClock::setTimeOfDay(int hours, int minutes, int seconds) {
     if (m_refuse)
         return false;
     m_timesSet.push_back({hours, minutes, seconds});
-    m_now = std::floor(m_now) + (hours * 3600 + minutes * 60 + seconds) / SecondsPerDay;
+    m_seconds = hours * 3600 + minutes * 60 + seconds;
     return true;
 }
 
+void FakeClock::setNow(DateValue value) {
+    m_day = std::floor(value);
+    m_seconds = (value - m_day) * SecondsPerDay;
+}
+
 void FakeClock::setDateTime(int year, int month, int day, int hours, int minutes, double seconds) {
-    m_now =
-        DateFromParts(year, month, day) + (hours * 3600 + minutes * 60 + seconds) / SecondsPerDay;
+    m_day = DateFromParts(year, month, day);
+    m_seconds = hours * 3600 + minutes * 60 + seconds;
 }
 
 void FakeClock::advanceSeconds(double seconds) {
-    m_now += seconds / SecondsPerDay;
+    m_seconds += seconds;
+    const double days = std::floor(m_seconds / SecondsPerDay);
+    m_day += days;
+    m_seconds -= days * SecondsPerDay;
 }
 
 } // namespace tessera

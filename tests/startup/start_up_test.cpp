@@ -1,0 +1,285 @@
+// Start-up paths answered by script, and what each leaves in the study folder.
+
+#include "core/new_notebook.h"
+#include "core/progress_file.h"
+#include "core/records.h"
+#include "core/start_up.h"
+#include "tests/support/study_folder.h"
+#include "tests/support/test_services.h"
+
+#include <gtest/gtest.h>
+
+using namespace tessera;
+
+namespace {
+
+const std::string Marker = "TesseraAppRunning";
+const std::string NoteBook = "TesseraNoteBook.RTF";
+const std::string Progress = "TesseraConfig.MS";
+
+class StartUpTest : public testing::Test {
+protected:
+    StartUpTest() { folder.write("Tessera", "{\\rtf1 no course here}\r\n"); }
+
+    StartUpOutcome start() {
+        state = SessionState{};
+        return StartUp(state, doubles.services).run();
+    }
+    // A progress file of an earlier run: only its header, with the user's name.
+    void writeEarlierRun(const std::string& name) {
+        ProgressHeader header;
+        header.UserName = name + std::string(UserNameLength - name.size(), ' ');
+        header.PassingGrade = 75;
+        header.TakeCounts[4] = 2;
+        const RecordBytes bytes = EncodeHeader(header);
+        folder.write(Progress, std::string(bytes.begin(), bytes.end()));
+    }
+    std::vector<QString> texts() const {
+        std::vector<QString> shown;
+        for (const ShownMessage& message : doubles.dialogs.messages())
+            shown.push_back(message.text);
+        return shown;
+    }
+
+    StudyFolder folder;
+    TestServices doubles;
+    SessionState state;
+};
+
+TEST_F(StartUpTest, MissingContentFileEndsAtOnceAndLeavesTheMarkerAlone) {
+    std::filesystem::remove(folder.path() / "Tessera");
+    folder.write(Marker, "left by another copy");
+
+    EXPECT_EQ(start(), StartUpOutcome::Ended);
+    ASSERT_EQ(doubles.dialogs.messages().size(), 1u);
+    const ShownMessage& fatal = doubles.dialogs.messages()[0];
+    EXPECT_EQ(fatal.text, QStringLiteral("Fatal Error. This Software must be reinstalled."));
+    EXPECT_EQ(fatal.title, QStringLiteral("Missing File Detected!"));
+    EXPECT_EQ(fatal.icon, MessageIcon::Critical);
+    EXPECT_EQ(folder.read(Marker), "left by another copy");
+    EXPECT_FALSE(folder.exists(Progress));
+}
+
+TEST_F(StartUpTest, RunningMarkerWarnsAndCancelLeavesIt) {
+    writeEarlierRun("Pat Doe");
+    folder.write(Marker, "");
+    doubles.dialogs.answer(MessageAnswer::Cancel);
+
+    EXPECT_EQ(start(), StartUpOutcome::Ended);
+    ASSERT_EQ(doubles.dialogs.messages().size(), 1u);
+    const ShownMessage& warning = doubles.dialogs.messages()[0];
+    EXPECT_EQ(warning.text,
+              QStringLiteral(
+                  "It is possible that this application is already running on this computer.\r\n"
+                  "A previous system lockup or power loss could also cause this warning.\r\n"
+                  "If the application is indeed running, results may be unpredictable if you "
+                  "continue.\r\n"
+                  "Press OK to continue. Cancel to abort."));
+    EXPECT_EQ(warning.title, QStringLiteral("Warning!"));
+    EXPECT_EQ(warning.icon, MessageIcon::Exclamation);
+    EXPECT_EQ(warning.buttons, MessageButtons::OkCancel);
+    EXPECT_TRUE(folder.exists(Marker));
+}
+
+TEST_F(StartUpTest, RunningMarkerAnsweredOkGoesOnWithTheStoredProgress) {
+    writeEarlierRun("Pat Doe");
+    folder.write(Marker, "");
+    doubles.dialogs.answer(MessageAnswer::Ok);
+
+    EXPECT_EQ(start(), StartUpOutcome::Ready);
+    EXPECT_TRUE(folder.exists(Marker));
+    EXPECT_EQ(state.UserName, "Pat Doe" + std::string(23, ' '));
+    EXPECT_EQ(state.PassingGrade, 75);
+    EXPECT_EQ(state.TakeCounts[4], 2);
+    EXPECT_TRUE(doubles.dialogs.inputs().empty());
+    EXPECT_EQ(doubles.dialogs.unscripted(), 0);
+}
+
+TEST_F(StartUpTest, FirstRunWritesHeaderNotebookAndMarker) {
+    doubles.dialogs.type(QStringLiteral("   Pat Doe"));
+    doubles.dialogs.answer(MessageAnswer::Yes);
+
+    EXPECT_EQ(start(), StartUpOutcome::Ready);
+    ASSERT_EQ(doubles.dialogs.messages().size(), 1u);
+    EXPECT_EQ(doubles.dialogs.messages()[0].text,
+              QStringLiteral("Thank you.\r\nSoftware user's name is Pat Doe."));
+    EXPECT_EQ(doubles.dialogs.messages()[0].title, QStringLiteral("Please Confirm."));
+    EXPECT_TRUE(folder.exists(Marker));
+
+    const std::string file = folder.read(Progress);
+    ASSERT_EQ(file.size(), static_cast<size_t>(RecordSize));
+    EXPECT_EQ(file.substr(0, 7), std::string("\x01\x01\x01\x01\x46\x00\x00", 7));
+    EXPECT_EQ(file.substr(7, 30), "Pat Doe" + std::string(23, ' '));
+    EXPECT_EQ(file.substr(37, 12), std::string(12, '\0'));
+    EXPECT_TRUE(state.ScrambleQuestions && state.SoundOn && state.TimerActive);
+    EXPECT_EQ(state.PassingGrade, 70);
+
+    std::string expected = "{\\rtf1\\ansi\\deff0\\deflang1033{\\fonttbl{\\f0\\fswiss Arial;}}\r\n"
+                           "\\viewkind4\\uc1\\pard\\b\\f0\\fs23 \r\n"
+                           "\\b\\qc Review Notes for the\r\n"
+                           "\\par Orlanda Academy Salesperson Tessera\r\n"
+                           "\\par EXAM PREPARATION\r\n"
+                           "\\par \\pard\\plain Notebook prepared by Pat Doe\r\n"
+                           "\\par \r\n";
+    for (const char* title :
+         {"Definitions", "Preliminary Evaluation", "Real Property and Laws Relating to Ownership",
+          "Transfer of Real Property", "Financing Real Estate",
+          "Valuation/Appraisal of Real Property", "Real Estate Practice",
+          "Tax Implications of Real Estate Ownership",
+          "Brokerage: Responsibilities and Functions of Salespersons"})
+        expected += std::string("\\par ") + title + "\r\n\\par Notes:\r\n" +
+                    "\\par \r\n\\par \r\n\\par \r\n\\par \r\n";
+    expected += "\\par }\r\n";
+    EXPECT_EQ(folder.read(NoteBook), expected);
+}
+
+TEST_F(StartUpTest, FirstRunKeepsLogAndReservedBytesOfAFileOfZeros) {
+    std::string zeros(RecordSize, '\0');
+    zeros[700] = 'R'; // a reserved byte passes through
+    folder.write(Progress, zeros);
+    doubles.dialogs.type(QStringLiteral("Lee"));
+    doubles.dialogs.answer(MessageAnswer::Yes);
+
+    EXPECT_EQ(start(), StartUpOutcome::Ready);
+    const std::string file = folder.read(Progress);
+    EXPECT_EQ(file.substr(49), zeros.substr(49));
+}
+
+TEST_F(StartUpTest, NameOfBlanksAsksAgainAndLongNameIsCutToThirty) {
+    const QString longName = QStringLiteral("Alexandra Konstantinopoulou-Whitfield");
+    doubles.dialogs.type(QStringLiteral("     "));
+    doubles.dialogs.type(longName);
+    doubles.dialogs.answer(MessageAnswer::Yes);
+
+    EXPECT_EQ(start(), StartUpOutcome::Ready);
+    EXPECT_EQ(doubles.dialogs.inputs().size(), 2u);
+    ASSERT_EQ(doubles.dialogs.messages().size(), 1u) << "blanks bring no Exit question";
+    EXPECT_EQ(doubles.dialogs.messages()[0].text,
+              QStringLiteral("Thank you.\r\nSoftware user's name is ") + longName.left(30) +
+                  QLatin1Char('.'));
+    EXPECT_EQ(folder.read(Progress).substr(7, 30), longName.left(30).toStdString());
+}
+
+TEST_F(StartUpTest, NoAtTheConfirmationForgetsTheName) {
+    doubles.dialogs.type(QStringLiteral("Pat Dough"));
+    doubles.dialogs.answer(MessageAnswer::No);
+    doubles.dialogs.type(QStringLiteral("Pat Doe"));
+    doubles.dialogs.answer(MessageAnswer::Yes);
+
+    EXPECT_EQ(start(), StartUpOutcome::Ready);
+    EXPECT_EQ(state.UserName, "Pat Doe" + std::string(23, ' '));
+    EXPECT_NE(folder.read(NoteBook).find("Notebook prepared by Pat Doe\r\n"), std::string::npos);
+}
+
+TEST_F(StartUpTest, CancelThenExitEndsAndTheNextStartIsAFirstRunAgain) {
+    doubles.dialogs.type(QString());           // cancel
+    doubles.dialogs.answer(MessageAnswer::No); // Exit Program? No
+    doubles.dialogs.type(QString());
+    doubles.dialogs.answer(MessageAnswer::Yes); // Exit Program? Yes
+
+    EXPECT_EQ(start(), StartUpOutcome::Ended);
+    EXPECT_EQ(texts(), (std::vector<QString>{QStringLiteral("Exit Program?"),
+                                             QStringLiteral("Exit Program?")}));
+    EXPECT_FALSE(folder.exists(Marker));
+    EXPECT_FALSE(folder.exists(NoteBook));
+    EXPECT_TRUE(ReadProgressHeader().isFirstRun());
+
+    doubles.dialogs.type(QStringLiteral("Pat Doe"));
+    doubles.dialogs.answer(MessageAnswer::Yes);
+    EXPECT_EQ(start(), StartUpOutcome::Ready);
+    EXPECT_EQ(doubles.dialogs.inputs().size(), 3u);
+}
+
+TEST_F(StartUpTest, LaterStartDoesNotRecreateAMissingNotebook) {
+    writeEarlierRun("Pat Doe");
+    EXPECT_EQ(start(), StartUpOutcome::Ready);
+    EXPECT_FALSE(folder.exists(NoteBook));
+    EXPECT_TRUE(folder.exists(Marker));
+}
+
+TEST_F(StartUpTest, RestartRestoresTheSuspendedTestAndExam) {
+    ProgressHeader header;
+    header.UserName = "Pat Doe" + std::string(23, ' ');
+    header.SuspendedTestRecord = 2;
+    header.SuspendedExamRecord = 3;
+    ReviewTestRecord review;
+    review.Topic = 3;
+    review.Position = 4;
+    review.Furthest = 5;
+    review.ItemCount = 6;
+    review.TestType = 3;
+    review.Items[4] = 212;
+    ExamRecord exam;
+    exam.Kind = 11;
+    exam.ExamType = 2;
+    exam.Position = 17;
+    exam.ItemCount = 150;
+    exam.Items[17] = 160;
+    std::string file;
+    for (const RecordBytes& bytes :
+         {EncodeHeader(header), EncodeReviewTest(review), EncodeExam(exam)})
+        file.append(bytes.begin(), bytes.end());
+    folder.write(Progress, file);
+
+    EXPECT_EQ(start(), StartUpOutcome::Ready);
+    EXPECT_EQ(state.CurrentTopic, 3);
+    EXPECT_EQ(state.TestPosition, 4);
+    EXPECT_EQ(state.TestType, 3);
+    EXPECT_EQ(state.TestItems[4], 212);
+    EXPECT_EQ(state.ExamKind, 2);
+    EXPECT_EQ(state.ExamPosition, 17);
+    EXPECT_EQ(state.ExamItems[17], 160);
+    EXPECT_EQ(folder.read(Progress), file) << "restoring reads and writes nothing";
+}
+
+TEST_F(StartUpTest, FolderThatCannotBeWrittenGivesUpAfterAFewTries) {
+    // A folder in the notebook's place: writing it fails however often it is tried.
+    std::filesystem::create_directory(folder.path() / NoteBook);
+    doubles.dialogs.type(QStringLiteral("Pat Doe"));
+    doubles.dialogs.answer(MessageAnswer::Yes);
+
+    EXPECT_EQ(start(), StartUpOutcome::Ended);
+    const std::vector<ShownMessage>& shown = doubles.dialogs.messages();
+    ASSERT_EQ(shown.size(), 2u + StartUp::MaxTries);
+    for (int i = 1; i <= StartUp::MaxTries; ++i) {
+        EXPECT_EQ(shown[i].text, QStringLiteral("Unrecoverable error 75 has occurred."));
+        EXPECT_EQ(shown[i].title, QStringLiteral("Path/File access error"));
+    }
+    EXPECT_TRUE(shown.back().text.startsWith(QStringLiteral("The program cannot start")));
+    EXPECT_FALSE(folder.exists(Marker)) << "this run made the marker and takes it away";
+}
+
+TEST_F(StartUpTest, NoPrinterIsReportedOnceAndStartUpGoesOn) {
+    writeEarlierRun("Pat Doe");
+    doubles.printer.fonts.reset();
+
+    EXPECT_EQ(start(), StartUpOutcome::Ready);
+    ASSERT_EQ(doubles.dialogs.messages().size(), 1u);
+    EXPECT_EQ(doubles.dialogs.messages()[0].title, QStringLiteral("Printer error"));
+    EXPECT_EQ(doubles.dialogs.messages()[0].text,
+              QStringLiteral("There is a problem that will prevent printing. Most likely cause "
+                             "is that\r\nyou have not selected a printer from the Windows Control "
+                             "Panel.\r\nOpen the Control Panel, double-click the Printers icon, "
+                             "and choose Add to install a printer."));
+    EXPECT_TRUE(state.PrinterProblem);
+    EXPECT_TRUE(state.PrintFontName.empty());
+}
+
+TEST(PrintFont, TheLastOfTheFourFoundInTheJoinedNamesWins) {
+    const std::vector<std::pair<QStringList, std::string>> cases = {
+        {{QStringLiteral("Arial"), QStringLiteral("Times New Roman")}, ""},
+        {{QStringLiteral("Courier New"), QStringLiteral("Terminal")}, "Courier New"},
+        {{QStringLiteral("Courier"), QStringLiteral("MS LineDraw")}, "Courier"},
+        {{QStringLiteral("Terminal"), QStringLiteral("MS LineDraw")}, "MS LineDraw"},
+        {{QStringLiteral("Courier New")}, "Courier New"},
+    };
+    for (const auto& [fonts, expected] : cases)
+        EXPECT_EQ(ChoosePrintFontName(fonts), expected)
+            << fonts.join(QLatin1Char(',')).toStdString();
+}
+
+TEST(NoteBookName, RichTextCharactersOfTheNameAreEscaped) {
+    EXPECT_EQ(RtfEscaped("Pat {Doe}\\ \xe9"), "Pat \\{Doe\\}\\\\ \\'e9");
+}
+
+} // namespace

@@ -1,0 +1,152 @@
+// The program as the application object runs it: the title screen, its hand-over, the
+// navigation screen and the end, with every service a double.
+
+#include "app/application.h"
+#include "core/pubdat.h"
+#include "tests/support/study_folder.h"
+#include "tests/support/test_services.h"
+
+#include <QLabel>
+#include <QPointer>
+#include <QtTest>
+
+#include <memory>
+
+using namespace tessera;
+
+namespace {
+
+void settle() {
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+}
+
+} // namespace
+
+class TitleScreenTest : public QObject {
+    Q_OBJECT
+
+private:
+    std::unique_ptr<StudyFolder> m_folder;
+    std::unique_ptr<TestServices> m_doubles;
+    std::unique_ptr<Application> m_app;
+
+    QString label(int index) const {
+        QWidget* title = m_app->find(ScreenName::Pubdat);
+        return title->findChild<QLabel*>(QStringLiteral("Label1_%1").arg(index))->text();
+    }
+    // The title screen of a first run, the name typed and confirmed.
+    QWidget* startFirstRun() {
+        m_doubles->dialogs.type(QStringLiteral("Pat Doe"));
+        m_doubles->dialogs.answer(MessageAnswer::Yes);
+        return m_app->show(ScreenName::Pubdat);
+    }
+
+private Q_SLOTS:
+    void init() {
+        m_folder = std::make_unique<StudyFolder>();
+        m_folder->write("Tessera", "{\\rtf1 }\r\n");
+        m_doubles = std::make_unique<TestServices>();
+        m_app = std::make_unique<Application>(m_doubles->services);
+    }
+    void cleanup() {
+        m_app.reset();
+        settle();
+        m_folder.reset();
+    }
+
+    void titleShowsTheCaptionsAndTheUser() {
+        QVERIFY(startFirstRun() != nullptr);
+        QCOMPARE(label(1), QStringLiteral("REAL ESTATE SALESPERSON TESSERA"));
+        QCOMPARE(label(2), QStringLiteral("Orlanda Academy presents..."));
+        QCOMPARE(label(3), QStringLiteral("EXAM PREPARATION"));
+        QCOMPARE(label(4), QStringLiteral("Pat Doe"));
+        QCOMPARE(label(5), QStringLiteral("Tessera Review Software Engineered by Ferrowick Labs"));
+        QCOMPARE(label(6), QStringLiteral("Third Edition"));
+        QVERIFY(!label(7).isEmpty());
+    }
+
+    void titleHandsOverAfterFourSeconds() {
+        QPointer<QWidget> title = startFirstRun();
+        m_doubles->clock.advanceSeconds(4.0);
+        QTest::qWait(450);
+        QVERIFY2(title, "exactly 4 seconds is not yet more than 4");
+        m_doubles->clock.advanceSeconds(0.1);
+        QTRY_VERIFY(m_app->find(ScreenName::ButtonMenu) != nullptr);
+        settle();
+        QVERIFY(!title);
+        QVERIFY(m_app->find(ScreenName::Pubdat) == nullptr);
+    }
+
+    void keyHandsOverAtOnce() {
+        QTest::keyClick(startFirstRun(), Qt::Key_Space);
+        QVERIFY(m_app->find(ScreenName::ButtonMenu) != nullptr);
+        QVERIFY(m_app->find(ScreenName::Pubdat) == nullptr);
+    }
+
+    void clickOnACaptionHandsOverAtOnce() {
+        QWidget* title = startFirstRun();
+        QTest::mouseClick(title->findChild<QLabel*>(QStringLiteral("Label1_1")), Qt::LeftButton);
+        QVERIFY(m_app->find(ScreenName::ButtonMenu) != nullptr);
+        QVERIFY(m_app->find(ScreenName::Pubdat) == nullptr);
+    }
+
+    void missingContentFileEndsTheProgram() {
+        std::filesystem::remove(m_folder->path() / "Tessera");
+        QVERIFY(m_app->show(ScreenName::Pubdat) == nullptr);
+        QVERIFY(m_app->ended());
+        QCOMPARE(m_app->run(), 0);
+        QVERIFY(m_app->find(ScreenName::Pubdat) == nullptr);
+    }
+
+    void closingTheNavigationScreenEndsTheProgramAndDeletesTheMarker() {
+        QTest::keyClick(startFirstRun(), Qt::Key_Return);
+        QVERIFY(m_folder->exists("TesseraAppRunning"));
+        QWidget* menu = m_app->find(ScreenName::ButtonMenu);
+        QVERIFY(menu->isVisible());
+        menu->close();
+        QVERIFY(m_app->ended());
+        QVERIFY(!m_folder->exists("TesseraAppRunning"));
+        QVERIFY(m_app->find(ScreenName::ButtonMenu) == nullptr);
+        QCOMPARE(m_doubles->dialogs.unscripted(), 0);
+    }
+
+    void screensLoadOnceUnloadForGoodAndKeepTheirPlace() {
+        m_app->registry().add(ScreenName::Calculator, [](ScreenContext&) { return new QWidget; });
+        m_app->state().WindowLeft[CalculatorSlot] = 120;
+        m_app->state().WindowTop[CalculatorSlot] = 90;
+        QVERIFY(m_app->isAvailable(ScreenName::Calculator));
+        QVERIFY(!m_app->isAvailable(ScreenName::Quiz800));
+
+        QPointer<QWidget> calculator = m_app->show(ScreenName::Calculator);
+        QCOMPARE(m_app->load(ScreenName::Calculator), calculator.data());
+        QCOMPARE(calculator->pos(), QPoint(120, 90));
+        calculator->move(200, 150);
+        m_app->unload(ScreenName::Calculator);
+        QVERIFY(m_app->find(ScreenName::Calculator) == nullptr);
+        settle();
+        QVERIFY(!calculator);
+        QCOMPARE(m_app->state().WindowLeft[CalculatorSlot], 200);
+        QCOMPARE(m_app->state().WindowTop[CalculatorSlot], 150);
+
+        // A screen the user closes goes the same way.
+        calculator = m_app->show(ScreenName::Calculator);
+        calculator->close();
+        settle();
+        QVERIFY(!calculator);
+        QVERIFY(m_app->find(ScreenName::Calculator) == nullptr);
+    }
+
+    void modalScreenReturnsWhenClosed() {
+        m_app->registry().add(ScreenName::Preferences, [](ScreenContext&) {
+            auto* screen = new QWidget;
+            QTimer::singleShot(50, screen, &QWidget::close);
+            return screen;
+        });
+        m_app->showModal(ScreenName::Preferences);
+        QVERIFY(m_app->find(ScreenName::Preferences) == nullptr);
+    }
+};
+
+QTEST_MAIN(TitleScreenTest)
+#include "title_screen_test.moc"
