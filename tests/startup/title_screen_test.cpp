@@ -35,11 +35,17 @@ private:
         QWidget* title = m_app->find(ScreenName::Pubdat);
         return title->findChild<QLabel*>(QStringLiteral("Label1_%1").arg(index))->text();
     }
-    // The title screen of a first run, the name typed and confirmed.
+    // The title screen of a first run, the name typed and confirmed, its start-up finished.
     QWidget* startFirstRun() {
         m_doubles->dialogs.type(QStringLiteral("Pat Doe"));
         m_doubles->dialogs.answer(MessageAnswer::Yes);
-        return m_app->show(ScreenName::Pubdat);
+        QWidget* title = m_app->show(ScreenName::Pubdat);
+        const bool started =
+            title != nullptr && QTest::qWaitFor([title] { return timer(title)->isActive(); });
+        return started ? title : nullptr;
+    }
+    static QTimer* timer(QWidget* title) {
+        return title->findChild<QTimer*>(QStringLiteral("Timer1"));
     }
 
 private Q_SLOTS:
@@ -76,6 +82,17 @@ private Q_SLOTS:
         settle();
         QVERIFY(!title);
         QVERIFY(m_app->find(ScreenName::Pubdat) == nullptr);
+    }
+
+    void titleCannotBeLeftBeforeStartUpIsDone() {
+        m_doubles->dialogs.type(QStringLiteral("Pat Doe"));
+        m_doubles->dialogs.answer(MessageAnswer::Yes);
+        QWidget* title = m_app->show(ScreenName::Pubdat);
+        QTest::keyClick(title, Qt::Key_Space); // before it has been painted
+        QCOMPARE(m_app->find(ScreenName::Pubdat), title);
+        QTRY_VERIFY(timer(title)->isActive());
+        QTest::keyClick(title, Qt::Key_Space);
+        QVERIFY(m_app->find(ScreenName::ButtonMenu) != nullptr);
     }
 
     void keyHandsOverAtOnce() {
