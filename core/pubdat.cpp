@@ -17,12 +17,16 @@ namespace {
 constexpr int TimerInterval = 200;
 constexpr int UnpaintedFinish = 500; // milliseconds
 
-void styleLabel(QLabel* label, double scale, bool bold, bool italic = false) {
-    QFont font = label->font();
-    font.setPointSizeF(font.pointSizeF() * scale);
-    font.setBold(bold);
-    font.setItalic(italic);
-    label->setFont(font);
+// Three type sizes only: each further face costs the title time before it first shows.
+enum class Type { Plain, Heading, Title };
+
+void styleLabel(QLabel* label, Type type) {
+    if (type != Type::Plain) {
+        QFont font = label->font();
+        font.setPointSizeF(font.pointSizeF() * (type == Type::Title ? 2.0 : 1.5));
+        font.setBold(true);
+        label->setFont(font);
+    }
     label->setAlignment(Qt::AlignCenter);
     label->setWordWrap(true);
 }
@@ -88,14 +92,11 @@ void Pubdat::buildControls() {
         Label1[i]->setObjectName(QStringLiteral("Label1_%1").arg(i));
     }
     // Top to bottom: author, publisher, the title and its subtitle, edition, the user, maker.
-    styleLabel(Label1[0], 1.0, false);
-    styleLabel(Label1[2], 1.15, false, true);
-    styleLabel(Label1[1], 2.0, true);
-    styleLabel(Label1[3], 1.6, true);
-    styleLabel(Label1[6], 1.15, false);
-    styleLabel(Label1[7], 1.0, false);
-    styleLabel(Label1[4], 1.4, true);
-    styleLabel(Label1[5], 0.9, false);
+    for (const int plain : {0, 2, 5, 6, 7})
+        styleLabel(Label1[plain], Type::Plain);
+    styleLabel(Label1[1], Type::Title);
+    styleLabel(Label1[3], Type::Heading);
+    styleLabel(Label1[4], Type::Heading);
     Label1[7]->setForegroundRole(QPalette::PlaceholderText);
     Label1[5]->setForegroundRole(QPalette::PlaceholderText);
 

@@ -74,3 +74,8 @@ void ToneSound::tone(int hertz, int milliseconds) {
 }
 
 } // namespace tessera
+
+// What the program calls once it has loaded this module.
+extern "C" Q_DECL_EXPORT tessera::Sound* TesseraCreateToneSound() {
+    return new tessera::ToneSound;
+}

@@ -1,5 +1,6 @@
 #pragma once
-// A generated sine tone on the default audio output; silent where there is none.
+// A generated sine tone on the default audio output; silent where there is none. Built as a
+// module of its own, which the program loads at the first tone.
 
 #include "platform/sound.h"
 

@@ -2,6 +2,7 @@
 // navigation screen and the end, with every service a double.
 
 #include "app/application.h"
+#include "app/deferred_sound.h"
 #include "core/pubdat.h"
 #include "tests/support/study_folder.h"
 #include "tests/support/test_services.h"
@@ -152,6 +153,12 @@ private Q_SLOTS:
         settle();
         QVERIFY(!calculator);
         QVERIFY(m_app->find(ScreenName::Calculator) == nullptr);
+    }
+
+    void toneModuleLoadsOnFirstUse() {
+        DeferredSound sound;
+        QVERIFY(sound.load());
+        sound.tone(440, 20); // silent where the machine has no audio device
     }
 
     void modalScreenReturnsWhenClosed() {
