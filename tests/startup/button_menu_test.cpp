@@ -194,6 +194,15 @@ private Q_SLOTS:
 
         QTest::keyClick(m_menu.get(), Qt::Key_H, Qt::AltModifier);
         QTRY_VERIFY(frameShown(4));
+        // Tab leads from the chosen option through the frame that is shown, and back.
+        QStringList order{QApplication::focusWidget()->objectName()};
+        for (int i = 0; i < 4; ++i) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            order << QApplication::focusWidget()->objectName();
+        }
+        QCOMPARE(order, (QStringList{QStringLiteral("Option1_5"), QStringLiteral("Command5_0"),
+                                     QStringLiteral("Command5_1"), QStringLiteral("Command5_2"),
+                                     QStringLiteral("Option1_5")}));
         auto* about = control<QPushButton>("Command5_0");
         about->setFocus();
         QTest::keyClick(about, Qt::Key_Return);
