@@ -1,7 +1,9 @@
 #include "core/button_menu.h"
 
 #include "core/navigation.h"
+#include "core/start_up.h"
 #include "platform/dialogs.h"
+#include "platform/windows1252.h"
 
 #include <QButtonGroup>
 #include <QGroupBox>
@@ -15,17 +17,6 @@
 namespace tessera {
 
 namespace {
-
-QString qs(const std::string& text) {
-    return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-QString trimmedName(const std::string& userName) {
-    QString name = qs(userName);
-    while (name.endsWith(QLatin1Char(' ')))
-        name.chop(1);
-    return name;
-}
 
 void scaleFont(QWidget* widget, double factor, bool bold) {
     QFont font = widget->font();
@@ -77,7 +68,7 @@ void ButtonMenu::buildControls() {
     auto* heading = new QHBoxLayout;
     auto* title = new QLabel(windowTitle(), this);
     scaleFont(title, 1.5, true);
-    auto* name = new QLabel(trimmedName(m_context.state.UserName), this);
+    auto* name = new QLabel(ShownUserName(m_context.state.UserName), this);
     name->setObjectName(QStringLiteral("UserNameLabel"));
     scaleFont(name, 1.1, false);
     heading->addWidget(title);
@@ -135,7 +126,7 @@ void ButtonMenu::buildControls() {
     welcomeColumn->addStretch();
     for (const std::string* text :
          {&catalogue.FirstTitleLine, &catalogue.SecondTitleLine, &catalogue.EditionLine}) {
-        auto* label = new QLabel(qs(*text), m_welcome);
+        auto* label = new QLabel(fromWindows1252(*text), m_welcome);
         label->setAlignment(Qt::AlignCenter);
         label->setForegroundRole(QPalette::PlaceholderText);
         scaleFont(label, 1.2, text == &catalogue.FirstTitleLine);
@@ -146,7 +137,8 @@ void ButtonMenu::buildControls() {
 
     Frame1[0] = makeFrame(0, "Reviews");
     for (int i = 0; i < 9; ++i) {
-        Command1[i] = makeCommand(Frame1[0], "Command1", i, qs(catalogue.TopicTitles[i + 1]));
+        Command1[i] =
+            makeCommand(Frame1[0], "Command1", i, fromWindows1252(catalogue.TopicTitles[i + 1]));
         connect(Command1[i], &QPushButton::clicked, this, [this, i] { Command1_Click(i); });
     }
     Frame1[1] = makeFrame(1, "Report Cards and Progress");
@@ -165,8 +157,8 @@ void ButtonMenu::buildControls() {
     }
     Frame1[3] = makeFrame(3, "Discussion and Guidelines");
     for (int i = 0; i < 7; ++i) {
-        Command4[i] =
-            makeCommand(Frame1[3], "Command4", i, qs(catalogue.TextSectionCaptions[i + 1]));
+        Command4[i] = makeCommand(Frame1[3], "Command4", i,
+                                  fromWindows1252(catalogue.TextSectionCaptions[i + 1]));
         connect(Command4[i], &QPushButton::clicked, this, [this, i] { Command4_Click(i); });
     }
     Frame1[4] = makeFrame(4, "General Help");

@@ -4,6 +4,7 @@
 
 #include "core/navigation.h"
 #include "platform/dialogs.h"
+#include "platform/windows1252.h"
 
 #include <QAbstractButton>
 #include <QButtonGroup>
@@ -24,8 +25,7 @@ constexpr int GlossarySection = 8;
 } // namespace
 
 void ButtonMenu::applyCaption(QAbstractButton* button, const CaptionState& state, bool available) {
-    button->setText(
-        QString::fromLatin1(state.caption.data(), static_cast<qsizetype>(state.caption.size())));
+    button->setText(fromWindows1252(state.caption));
     button->setEnabled(state.enabled && available);
 }
 

@@ -31,13 +31,6 @@ void styleLabel(QLabel* label, Type type) {
     label->setWordWrap(true);
 }
 
-QString trimmedName(const std::string& userName) {
-    QString name = fromWindows1252(userName);
-    while (name.endsWith(QLatin1Char(' ')) || name.endsWith(QChar()))
-        name.chop(1);
-    return name;
-}
-
 } // namespace
 
 Pubdat::Pubdat(ScreenContext& context)
@@ -131,7 +124,7 @@ void Pubdat::setCaptions() {
     Label1[1]->setText(fromWindows1252(catalogue.FirstTitleLine));
     Label1[2]->setText(fromWindows1252(catalogue.PublisherLine));
     Label1[3]->setText(fromWindows1252(catalogue.SecondTitleLine));
-    Label1[4]->setText(trimmedName(m_context.state.UserName));
+    Label1[4]->setText(ShownUserName(m_context.state.UserName));
     Label1[5]->setText(QStringLiteral("Tessera Review Software Engineered by Ferrowick Labs"));
     Label1[6]->setText(fromWindows1252(catalogue.EditionLine));
     Label1[7]->setText(QStringLiteral("Prepared for"));

@@ -70,4 +70,7 @@ std::string ChoosePrintFontName(const QStringList& fontNames);
 // The confirmed form of a typed name: leading blanks cut, at most 30 characters.
 QString CutUserName(const QString& typed);
 
+// UserName as the screens show it: its padding cut from the end.
+QString ShownUserName(const std::string& userName);
+
 } // namespace tessera
