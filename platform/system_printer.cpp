@@ -1,12 +1,12 @@
 #include "platform/system_printer.h"
 
-#include <QAbstractTextDocumentLayout>
 #include <QApplication>
 #include <QFileDialog>
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QPrintDialog>
 #include <QPrinterInfo>
+#include <QScreen>
 #include <QTextDocument>
 
 namespace tessera {
@@ -128,18 +128,24 @@ void SystemPrinter::printDocument(const QTextDocument& document) {
         return;
     if (m_pageUsed)
         newPage();
+    // The document is laid out as on screen and drawn scaled to the printer, so that indents and
+    // tab stops, kept in screen pixels, keep their place beside the text.
     std::unique_ptr<QTextDocument> copy(document.clone());
-    copy->documentLayout()->setPaintDevice(&m_printer);
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    const double screenDpi = screen ? screen->logicalDotsPerInchY() : 96.0;
+    const double scale = m_printer.logicalDpiY() / screenDpi;
     const QRectF page = m_printer.pageRect(QPrinter::DevicePixel);
-    copy->setPageSize(page.size());
+    const QSizeF pageInScreenUnits(page.width() / scale, page.height() / scale);
+    copy->setPageSize(pageInScreenUnits);
     const int pages = copy->pageCount();
     for (int i = 0; i < pages && m_ok; ++i) {
         if (i > 0)
             newPage();
         m_painter->save();
-        m_painter->translate(0, -i * page.height());
-        copy->drawContents(m_painter.get(),
-                           QRectF(0, i * page.height(), page.width(), page.height()));
+        m_painter->scale(scale, scale);
+        m_painter->translate(0, -i * pageInScreenUnits.height());
+        copy->drawContents(m_painter.get(), QRectF(QPointF(0, i * pageInScreenUnits.height()),
+                                                   pageInScreenUnits));
         m_painter->restore();
     }
     m_pageUsed = true;
