@@ -144,8 +144,8 @@ void SystemPrinter::printDocument(const QTextDocument& document) {
         m_painter->save();
         m_painter->scale(scale, scale);
         m_painter->translate(0, -i * pageInScreenUnits.height());
-        copy->drawContents(m_painter.get(), QRectF(QPointF(0, i * pageInScreenUnits.height()),
-                                                   pageInScreenUnits));
+        copy->drawContents(m_painter.get(),
+                           QRectF(QPointF(0, i * pageInScreenUnits.height()), pageInScreenUnits));
         m_painter->restore();
     }
     m_pageUsed = true;

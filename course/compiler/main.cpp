@@ -3,11 +3,15 @@
 //
 //   tessera-course build SOURCE_DIR OUT_FILE
 //   tessera-course check FILE
+//   tessera-course text FILE    the plain text the rich text view makes of any RTF file
 
 #include "core/content_file.h"
 #include "course/compiler/content_check.h"
 #include "course/compiler/content_writer.h"
 #include "course/compiler/course_source.h"
+#include "platform/rtf_reader.h"
+
+#include <QTextDocument>
 
 #include <fstream>
 #include <iostream>
@@ -18,7 +22,8 @@ using namespace tessera::course;
 
 int Usage() {
     std::cerr << "usage: tessera-course build SOURCE_DIR OUT_FILE\n"
-                 "       tessera-course check FILE\n";
+                 "       tessera-course check FILE\n"
+                 "       tessera-course text FILE\n";
     return 2;
 }
 
@@ -61,6 +66,20 @@ int Check(const std::string& file) {
     return Report(CheckContent(tessera::ReadContentText(file)), std::cout) ? 0 : 1;
 }
 
+// Prints the text as the program's rich text view reads it, so that an author can proofread.
+int Text(const std::string& file) {
+    std::ifstream in(file, std::ios::binary);
+    if (!in) {
+        std::cerr << file << ": cannot be read\n";
+        return 1;
+    }
+    const std::string rtf((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    QTextDocument document;
+    tessera::readRtf(rtf, document);
+    std::cout << tessera::plainTextOf(document).toStdString() << "\n";
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -69,5 +88,7 @@ int main(int argc, char** argv) {
         return Build(args[1], args[2]);
     if (args.size() == 2 && args[0] == "check")
         return Check(args[1]);
+    if (args.size() == 2 && args[0] == "text")
+        return Text(args[1]);
     return Usage();
 }

@@ -40,9 +40,10 @@ TEST(SystemPrinter, PrintsLinesPagesAndDocumentsToPdf) {
     printer.printLine(QString(48, QChar(0x2014)), 6);
 
     QTextDocument document;
-    readRtf("{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\\pard\\qc\\b\\fs32 Agency\\par\\pard\\plain"
-            "\\fs22 Flush left.\\par\\li720 A broker owes \\i fiduciary\\i0  duties.\\tab Done.\\par }",
-            document);
+    readRtf(
+        "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\\pard\\qc\\b\\fs32 Agency\\par\\pard\\plain"
+        "\\fs22 Flush left.\\par\\li720 A broker owes \\i fiduciary\\i0  duties.\\tab Done.\\par }",
+        document);
     printer.printDocument(document);
     printer.endDoc();
     EXPECT_TRUE(printer.ok());
