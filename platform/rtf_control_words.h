@@ -13,7 +13,11 @@ enum class RtfWord : uint8_t {
     ColorTable,
     Picture,
     SkippedDestination, // info, stylesheet, header, footer and the like
-    ReadDestination,    // a group whose text shows: fldrslt, shppict, listtext...
+    ReadDestination,    // a group whose text shows: fldrslt, shppict...
+    ListTable,
+    ListOverrideTable,
+    LevelText,
+    ListText, // a list label kept for readers that know no lists
     // Document
     Ansi,
     Mac,
@@ -76,6 +80,15 @@ enum class RtfWord : uint8_t {
     Unicode,
     UnicodeSkip,
     Binary,
+    // Lists
+    ListBegin,
+    ListLevel,
+    LevelFormat,
+    LevelStart,
+    LevelFollow,
+    ListId,
+    ListNumber,
+    ListLevelIndex,
     // Pictures
     PngBlip,
     JpegBlip,

@@ -1,6 +1,7 @@
 #include "platform/rtf_parser.h"
 
 #include "platform/rtf_code_pages.h"
+#include "platform/windows1252.h"
 
 #include <QTextDocument>
 
@@ -131,7 +132,13 @@ void RtfParser::textBytes() {
                 }
             }
             break;
+        case Destination::LevelText:
+            if (c != ';')
+                m_lists.addLevelText(windows1252Table()[c]);
+            break;
         case Destination::Skip:
+        case Destination::ListTable:
+        case Destination::ListOverrideTable:
             break;
         }
     }
@@ -159,6 +166,9 @@ void RtfParser::controlSymbol(unsigned char symbol) {
             byte(static_cast<unsigned char>(value));
         } else if (digits > 0 && m_state.destination == Destination::FontTable && !skipping()) {
             fontTableByte(static_cast<unsigned char>(value));
+        } else if (digits > 0 && m_state.destination == Destination::LevelText && !skipping()) {
+            // Below 9 these are the places of level numbers, kept as they are.
+            m_lists.addLevelText(value < 0x20 ? char16_t(value) : windows1252Table()[value]);
         }
         return;
     }

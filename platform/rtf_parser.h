@@ -2,6 +2,7 @@
 // The reader's inner parser: one pass over the bytes, text inserted run by run.
 
 #include "platform/rtf_control_words.h"
+#include "platform/rtf_lists.h"
 #include "platform/rtf_reader_state.h"
 
 #include <QColor>
@@ -21,7 +22,16 @@ class CodePage;
 
 namespace rtf {
 
-enum class Destination : uint8_t { Text, Skip, FontTable, ColourTable, Picture };
+enum class Destination : uint8_t {
+    Text,
+    Skip,
+    FontTable,
+    ColourTable,
+    Picture,
+    ListTable,
+    ListOverrideTable,
+    LevelText,
+};
 
 struct GroupState {
     RtfCharState chars;
@@ -47,6 +57,7 @@ private:
     void controlSymbol(unsigned char symbol);
     void controlWord();
     void applyWord(RtfWord word, bool hasParameter, int parameter);
+    void applyListWord(RtfWord word, int parameter);
     void setDestination(RtfWord word);
     void textBytes();
 
@@ -87,6 +98,7 @@ private:
     int m_pendingLead = -1;
     bool m_pendingCell = false;
     bool m_blockPending = false;
+    bool m_labelDue = true; // the next text begins a paragraph, which may carry a list label
 
     std::u16string m_run; // the text of one format, waiting to be inserted
     RtfCharState m_runChars;
@@ -103,6 +115,7 @@ private:
     int m_red = 0, m_green = 0, m_blue = 0;
     bool m_colourGiven = false;
     RtfFormats m_formats;
+    RtfLists m_lists;
 
     std::string m_picture;
     int m_pictureNibble = -1;

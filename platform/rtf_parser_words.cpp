@@ -42,7 +42,21 @@ void RtfParser::applyWord(RtfWord word, bool hasParameter, int parameter) {
     case RtfWord::Picture:
     case RtfWord::SkippedDestination:
     case RtfWord::ReadDestination:
+    case RtfWord::ListTable:
+    case RtfWord::ListOverrideTable:
+    case RtfWord::LevelText:
+    case RtfWord::ListText:
         setDestination(word);
+        break;
+    case RtfWord::ListBegin:
+    case RtfWord::ListLevel:
+    case RtfWord::LevelFormat:
+    case RtfWord::LevelStart:
+    case RtfWord::LevelFollow:
+    case RtfWord::ListId:
+    case RtfWord::ListNumber:
+    case RtfWord::ListLevelIndex:
+        applyListWord(word, parameter);
         break;
 
     case RtfWord::Ansi:
@@ -243,6 +257,8 @@ void RtfParser::applyWord(RtfWord word, bool hasParameter, int parameter) {
         if (unit > 0 && unit <= 0xFFFF) {
             if (m_state.destination == Destination::FontTable)
                 m_fontName += QChar(char16_t(unit));
+            else if (m_state.destination == Destination::LevelText)
+                m_lists.addLevelText(char16_t(unit));
             else
                 character(char16_t(unit));
         }
@@ -278,8 +294,67 @@ void RtfParser::applyWord(RtfWord word, bool hasParameter, int parameter) {
     }
 }
 
+void RtfParser::applyListWord(RtfWord word, int parameter) {
+    const Destination destination = m_state.destination;
+    const bool inTable = destination == Destination::ListTable;
+    switch (word) {
+    case RtfWord::ListBegin:
+        if (inTable)
+            m_lists.beginList();
+        break;
+    case RtfWord::ListLevel:
+        if (inTable)
+            m_lists.beginLevel();
+        break;
+    case RtfWord::LevelFormat:
+        if (inTable)
+            m_lists.setFormat(parameter);
+        break;
+    case RtfWord::LevelStart:
+        if (inTable)
+            m_lists.setStart(parameter);
+        break;
+    case RtfWord::LevelFollow:
+        if (inTable)
+            m_lists.setFollow(parameter);
+        break;
+    case RtfWord::ListId:
+        if (inTable)
+            m_lists.setListId(parameter);
+        else if (destination == Destination::ListOverrideTable)
+            m_lists.setOverrideListId(parameter);
+        break;
+    case RtfWord::ListNumber:
+        if (destination == Destination::ListOverrideTable)
+            m_lists.setOverrideNumber(parameter);
+        else
+            m_state.para.list = parameter;
+        break;
+    case RtfWord::ListLevelIndex:
+        m_state.para.listLevel = std::clamp(parameter, 0, RtfLists::MaxLevels - 1);
+        break;
+    default:
+        break;
+    }
+}
+
 void RtfParser::setDestination(RtfWord word) {
     switch (word) {
+    case RtfWord::ListTable:
+        m_state.destination = Destination::ListTable;
+        break;
+    case RtfWord::ListOverrideTable:
+        m_state.destination = Destination::ListOverrideTable;
+        break;
+    case RtfWord::LevelText:
+        m_state.destination = m_state.destination == Destination::ListTable ? Destination::LevelText
+                                                                            : Destination::Skip;
+        break;
+    case RtfWord::ListText:
+        // Where the list table tells the labels, they are made from it instead.
+        if (!m_lists.empty())
+            m_state.destination = Destination::Skip;
+        break;
     case RtfWord::FontTable:
         m_state.destination = Destination::FontTable;
         m_fontName.clear();
@@ -336,6 +411,11 @@ bool RtfParser::startText() {
     if (m_pendingCell) {
         m_pendingCell = false;
         m_run.push_back(u'\t');
+    }
+    if (m_labelDue) {
+        m_labelDue = false;
+        if (m_state.para.list > 0)
+            m_run += m_lists.nextLabel(m_state.para.list, m_state.para.listLevel);
     }
     return true;
 }
@@ -405,6 +485,7 @@ void RtfParser::endParagraph() {
     m_pendingCell = false;
     m_pendingLead = -1;
     m_blockPending = true;
+    m_labelDue = true;
 }
 
 void RtfParser::skipBinary(int count) {

@@ -62,6 +62,8 @@ struct RtfParaState {
     int before = 0;
     int after = 0;
     std::array<RtfTabStop, MaxTabs> tabs{};
+    int list = 0; // \ls: the list override the paragraph belongs to; not part of its format
+    int listLevel = 0;
 
     void addTab(int twips);
     bool operator==(const RtfParaState& other) const;

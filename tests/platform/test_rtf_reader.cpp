@@ -109,6 +109,20 @@ TEST(RtfReader, SkipsDestinationsThatHoldNoText) {
               QStringLiteral("one\ttwo\nafter"));
 }
 
+TEST(RtfReader, NumbersListsFromTheListTable) {
+    const std::string lists =
+        "{\\rtf1{\\*\\listtable{\\list{\\listlevel\\levelnfc0\\levelstartat3{\\leveltext "
+        "\\'02\\'00.;}}{\\listlevel\\levelnfc4\\levelfollow1{\\leveltext\\'04\\'00.\\'01);}}"
+        "\\listid7}{\\list{\\listlevel\\levelnfc23{\\leveltext\\'01\\u8226 ?;}}\\listid8}}"
+        "{\\listoverridetable{\\listoverride\\listid7\\ls1}{\\listoverride\\listid8\\ls2}}";
+    EXPECT_EQ(
+        textOf(lists + "\\pard\\ls1{\\listtext 9.\\tab}one\\par two\\par\\ilvl1 sub\\par sub\\par"
+                       "\\ilvl0 three\\par\\pard plain\\par\\ls2 dot}"),
+        QStringLiteral("3.\tone\n4.\ttwo\n4.a) sub\n4.b) sub\n5.\tthree\nplain\n\u2022\tdot"));
+    // Without a list table the label that the writer kept is what shows.
+    EXPECT_EQ(textOf("{\\rtf1\\pard{\\listtext 1.\\tab}one}"), QStringLiteral("1.\tone"));
+}
+
 TEST(RtfReader, ReadsPictures) {
     QImage image(4, 3, QImage::Format_RGB32);
     image.fill(Qt::blue);
