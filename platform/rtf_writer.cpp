@@ -55,11 +55,25 @@ const char* familyClass(const QString& name) {
     return "\\fswiss";
 }
 
+const char* controlSymbol(char16_t unit) {
+    switch (unit) {
+    case QChar::Nbsp:
+        return "\\~";
+    case 0x00AD:
+        return "\\-";
+    case 0x2011:
+        return "\\_";
+    default:
+        return nullptr;
+    }
+}
+
 class RtfWriter {
 public:
     explicit RtfWriter(const QTextDocument& document) : m_document(document) {}
 
-    std::string write(int from, int to, const QTextCharFormat& emptyFormat);
+    // With `whole`, an empty last paragraph is written too, so that its format comes back.
+    std::string write(int from, int to, const QTextCharFormat& emptyFormat, bool whole);
 
 private:
     void paragraph(const QTextBlock& block);
@@ -89,14 +103,14 @@ private:
     QList<QColor> m_colours;
 };
 
-std::string RtfWriter::write(int from, int to, const QTextCharFormat& emptyFormat) {
+std::string RtfWriter::write(int from, int to, const QTextCharFormat& emptyFormat, bool whole) {
     if (from == to) {
         paragraph(m_document.findBlock(from));
         charFormat(emptyFormat);
     }
     for (QTextBlock block = m_document.findBlock(from); block.isValid() && from < to;
          block = block.next()) {
-        if (block.position() > to || (block.position() == to && block.position() != from))
+        if (block.position() > to || (block.position() == to && !whole))
             break;
         paragraph(block);
         for (auto it = block.begin(); !it.atEnd(); ++it) {
@@ -214,20 +228,16 @@ void RtfWriter::text(QStringView text) {
         case QChar::LineSeparator:
             escape = "\\line";
             break;
-        case QChar::Nbsp:
-            escape = "\\~";
-            break;
-        case 0x00AD:
-            escape = "\\-";
-            break;
-        case 0x2011:
-            escape = "\\_";
-            break;
         default:
             break;
         }
         if (escape) {
             word(escape);
+            continue;
+        }
+        if (const char* symbol = controlSymbol(unit)) {
+            m_body += symbol; // a symbol ends itself: no blank behind it
+            m_delimit = false;
             continue;
         }
         if (m_delimit) {
@@ -310,12 +320,12 @@ std::string RtfWriter::header() const {
 std::string writeRtf(const QTextDocument& document) {
     QTextCursor all(const_cast<QTextDocument*>(&document));
     all.movePosition(QTextCursor::End, QTextCursor::KeepAnchor);
-    return RtfWriter(document).write(0, all.position(), all.charFormat());
+    return RtfWriter(document).write(0, all.position(), all.charFormat(), true);
 }
 
 std::string writeRtf(const QTextCursor& selection) {
     return RtfWriter(*selection.document())
-        .write(selection.selectionStart(), selection.selectionEnd(), selection.charFormat());
+        .write(selection.selectionStart(), selection.selectionEnd(), selection.charFormat(), false);
 }
 
 } // namespace tessera

@@ -15,6 +15,7 @@ private Q_SLOTS:
     void plainTextPositionsMatchTheSelection();
     void readOnlyViewPassesOnlyTheCopyKey();
     void saveThenLoadBringsTheDocumentBack();
+    void emptySelectionGivesThePrologueOfANewNotebook();
     void printsTheSelectionOrTheWholeText();
     void rightMarginSetsTheWrapWidth();
 };
@@ -80,6 +81,19 @@ void TestRichTextView::saveThenLoadBringsTheDocumentBack() {
     QVERIFY(!reopened.loadFile(QStringLiteral("missing.rtf")));
 }
 
+void TestRichTextView::emptySelectionGivesThePrologueOfANewNotebook() {
+    RichTextView title;
+    QTextCharFormat format;
+    format.setFontFamilies(QStringList{QStringLiteral("Arial")});
+    format.setFontPointSize(11.5);
+    format.setFontWeight(QFont::Bold);
+    title.setCurrentCharFormat(format);
+    const std::string rtf = title.selRtf();
+    QCOMPARE(rtf.substr(0, rtf.size() - 5),
+             std::string("{\\rtf1\\ansi\\deff0\\deflang1033{\\fonttbl{\\f0\\fswiss Arial;}}\r\n"
+                         "\\viewkind4\\uc1\\pard\\b\\f0\\fs23 "));
+}
+
 void TestRichTextView::printsTheSelectionOrTheWholeText() {
     RichTextView view;
     view.setTextRtf(Heading);
@@ -99,6 +113,14 @@ void TestRichTextView::printsTheSelectionOrTheWholeText() {
     PrintRichText(view, whole);
     QCOMPARE(whole.documents.size(), 1u);
     QCOMPARE(whole.documents[0].text, view.text());
+
+    // A printer that fails stops the copies; the job is not sent.
+    RecordingPrinter failing;
+    failing.dialogAnswer = PrintChoice{3, false};
+    failing.failAfterLines = 0;
+    PrintRichText(view, failing);
+    QVERIFY(failing.documents.empty());
+    QCOMPARE(failing.jobsEnded, 0);
 
     RecordingPrinter cancelled;
     cancelled.dialogAnswer.reset();

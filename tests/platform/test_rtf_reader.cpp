@@ -70,6 +70,33 @@ TEST(RtfReader, KeepsParagraphFormatting) {
               Qt::AlignJustify);
 }
 
+TEST(RtfReader, PlainAndPardResetWhatGroupsDoNot) {
+    QTextDocument document;
+    readRtf(Header + "\\deftab360\\pard\\qc\\li360\\sb120\\sa240\\tx720\\b\\i\\strike\\super a{\\v "
+                     "hidden}\\par b\\plain c\\par\\pard d\\sub e\\nosupersub f\\par}",
+            document);
+    EXPECT_EQ(plainTextOf(document), QStringLiteral("a\nbc\ndef\n"));
+    EXPECT_EQ(document.defaultTextOption().tabStopDistance(), 24);
+    const QTextBlockFormat kept = document.findBlockByNumber(1).blockFormat();
+    EXPECT_EQ(kept.alignment() & Qt::AlignHorizontal_Mask, Qt::AlignHCenter);
+    EXPECT_EQ(kept.leftMargin(), 24);
+    EXPECT_EQ(kept.topMargin(), 8);
+    EXPECT_EQ(kept.bottomMargin(), 16);
+    EXPECT_EQ(kept.tabPositions().size(), 1);
+    const QTextBlockFormat reset = document.findBlockByNumber(2).blockFormat();
+    EXPECT_EQ(reset.leftMargin(), 0);
+    EXPECT_TRUE(reset.tabPositions().isEmpty());
+    const QTextCharFormat b = formatAt(document, 2);
+    EXPECT_TRUE(b.fontStrikeOut());
+    EXPECT_EQ(b.verticalAlignment(), QTextCharFormat::AlignSuperScript);
+    EXPECT_EQ(b.fontWeight(), QFont::Bold);
+    const QTextCharFormat c = formatAt(document, 3);
+    EXPECT_FALSE(c.fontStrikeOut());
+    EXPECT_EQ(c.fontWeight(), QFont::Normal);
+    EXPECT_EQ(formatAt(document, 6).verticalAlignment(), QTextCharFormat::AlignSubScript);
+    EXPECT_EQ(formatAt(document, 7).verticalAlignment(), QTextCharFormat::AlignNormal);
+}
+
 TEST(RtfReader, DecodesWindows1252AndUnicode) {
     // Raw byte 151 and \'97 are both the long dash; \'e9 is e acute.
     EXPECT_EQ(textOf(Header + "a\x97 b\\'97 caf\\'e9 \\'80}"),

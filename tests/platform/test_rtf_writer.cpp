@@ -1,6 +1,8 @@
 #include "platform/rtf_reader.h"
 #include "platform/rtf_writer.h"
 
+#include <QDir>
+#include <QFile>
 #include <QFont>
 #include <QTextBlock>
 #include <QTextCursor>
@@ -12,26 +14,36 @@ namespace tessera {
 namespace {
 
 // Every run of a document: its text and what a notebook keeps of its format.
-std::vector<QString> runsOf(const QTextDocument& document) {
-    std::vector<QString> runs;
+std::vector<std::string> runsOf(const QTextDocument& document) {
+    std::vector<std::string> runs;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         const QTextBlockFormat para = block.blockFormat();
-        runs.push_back(QStringLiteral("para align=%1 left=%2 right=%3 first=%4 tabs=%5")
+        QString tabs;
+        for (const QTextOption::Tab& tab : para.tabPositions())
+            tabs += QStringLiteral("%1:%2 ").arg(tab.position).arg(int(tab.type));
+        runs.push_back(QStringLiteral("para align=%1 left=%2 right=%3 first=%4 above=%5 below=%6 "
+                                      "tabs=%7")
                            .arg(int(para.alignment() & Qt::AlignHorizontal_Mask))
                            .arg(para.leftMargin())
                            .arg(para.rightMargin())
                            .arg(para.textIndent())
-                           .arg(para.tabPositions().size()));
+                           .arg(para.topMargin())
+                           .arg(para.bottomMargin())
+                           .arg(tabs)
+                           .toStdString());
         for (auto it = block.begin(); !it.atEnd(); ++it) {
             const QTextCharFormat format = it.fragment().charFormat();
-            runs.push_back(QStringLiteral("%1 b=%2 i=%3 u=%4 size=%5 font=%6 colour=%7")
+            runs.push_back(QStringLiteral("%1 b=%2 i=%3 u=%4 s=%5 v=%6 size=%7 font=%8 colour=%9")
                                .arg(it.fragment().text())
                                .arg(format.fontWeight() >= QFont::Bold)
                                .arg(format.fontItalic())
                                .arg(format.fontUnderline())
+                               .arg(format.fontStrikeOut())
+                               .arg(int(format.verticalAlignment()))
                                .arg(format.fontPointSize())
                                .arg(format.fontFamilies().toStringList().join(u','))
-                               .arg(format.foreground().color().name()));
+                               .arg(format.foreground().color().name())
+                               .toStdString());
         }
     }
     return runs;
@@ -43,16 +55,33 @@ TEST(RtfWriter, SaveThenLoadKeepsTextAndFormatting) {
         "{\\colortbl ;\\red0\\green128\\blue0;}\\pard\\qc\\b\\fs28 Review Notes\\par"
         "\\pard\\li720\\ri240\\fi-360\\tx1440\\tqr\\tx5000\\plain\\f1 a\\tab b\\tab {\\i c} "
         "{\\ul\\cf1 d}\\line e\\par\\pard\\qr caf\\'e9 \\u8364? \\{x\\} \\\\ \\u-10179?\\u-8704?"
-        "\\par\\qj\\fs18 last}";
+        "\\par\\qj\\sb120\\sa240\\fs18 last {\\strike gone} x{\\super 2} H{\\sub 2}O "
+        "a\\~b\\-c\\_d}";
     QTextDocument original;
     readRtf(source, original);
     const std::string saved = writeRtf(original);
     QTextDocument loaded;
     readRtf(saved, loaded);
-    EXPECT_EQ(plainTextOf(loaded), plainTextOf(original));
+    EXPECT_EQ(plainTextOf(loaded).toStdString(), plainTextOf(original).toStdString());
     EXPECT_EQ(runsOf(loaded), runsOf(original));
     // Written again, the document comes out the same.
     EXPECT_EQ(writeRtf(loaded), saved);
+}
+
+TEST(RtfWriter, WordProcessorFilesSurviveSaveThenLoad) {
+    const QDir fixtures(QStringLiteral(TESSERA_TEST_DATA "/fixtures"));
+    for (const QString& name : fixtures.entryList({QStringLiteral("*.rtf")}, QDir::Files)) {
+        SCOPED_TRACE(name.toStdString());
+        QFile file(fixtures.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        const QByteArray rtf = file.readAll();
+        QTextDocument original;
+        readRtf(std::string_view(rtf.constData(), static_cast<std::size_t>(rtf.size())), original);
+        QTextDocument loaded;
+        readRtf(writeRtf(original), loaded);
+        EXPECT_EQ(plainTextOf(loaded).toStdString(), plainTextOf(original).toStdString());
+        EXPECT_EQ(runsOf(loaded), runsOf(original));
+    }
 }
 
 TEST(RtfWriter, EmptySelectionGivesThePrologueInTheCursorsFormat) {
