@@ -2,6 +2,7 @@
 
 #include "core/core_screens.h"
 #include "exam/exam_screens.h"
+#include "review/review_screens.h"
 
 namespace tessera {
 
@@ -9,6 +10,7 @@ namespace tessera {
 void RegisterAllScreens(ScreenRegistry& registry) {
     RegisterCoreScreens(registry);
     RegisterExamScreens(registry);
+    RegisterReviewScreens(registry);
 }
 
 } // namespace tessera

@@ -57,6 +57,7 @@ ReviewGauge::ReviewGauge(QWidget* parent) : QWidget(parent) {
     HandShake->setObjectName(QStringLiteral("HandShake"));
     HandShake->setAccessibleName(QStringLiteral("Passing"));
     HandShake->setToolTip(QStringLiteral("PASSING!"));
+    HandShake->setPixmap(HandShakePicture(HandShakeSize, devicePixelRatioF()));
     HandShake->hide();
 }
 
@@ -122,7 +123,6 @@ void ReviewGauge::placeControls() {
                         PassMarkTop(GaugeTop(), GaugeHeight(), m_grade, labelHeight), MarkWidth + 8,
                         labelHeight);
 
-    HandShake->setPixmap(HandShakePicture(HandShakeSize, devicePixelRatioF()));
     HandShake->setGeometry((width() - HandShakeSize) / 2, height() - HandShakeSize - 2,
                            HandShakeSize, HandShakeSize);
 }

@@ -1,0 +1,14 @@
+#include "review/review_screens.h"
+
+#include "review/pict_form.h"
+#include "review/quiz800.h"
+
+namespace tessera {
+
+// Aladdin is not among them: Quiz800 opens it itself and reads what was chosen.
+void RegisterReviewScreens(ScreenRegistry& registry) {
+    registry.add<Quiz800>(ScreenName::Quiz800);
+    registry.add<PictForm>(ScreenName::PictForm);
+}
+
+} // namespace tessera

@@ -1,0 +1,264 @@
+// Quiz800 at the grain of one item: answers by click and by key, feedback, tallies, colours,
+// the wishes, the clocks and stepping back.
+
+#include "quiz800_screen.h"
+#include "review/item_scoring.h"
+
+#include <QProgressBar>
+
+namespace tessera {
+
+class Quiz800ItemsTest : public QObject {
+    Q_OBJECT
+
+private:
+    std::unique_ptr<ReviewScreenFixture> f;
+
+    std::unique_ptr<Quiz800Driver> open(int topic) {
+        f->state.CurrentTopic = static_cast<int16_t>(topic);
+        return std::make_unique<Quiz800Driver>(*f);
+    }
+
+private Q_SLOTS:
+    void init() {
+        f = std::make_unique<ReviewScreenFixture>();
+        f->startFresh();
+    }
+
+    void newTestOpensOnItsFirstItem() {
+        auto quiz = open(2);
+        QCOMPARE(quiz->screen().windowTitle(), QStringLiteral("Preliminary Evaluation"));
+        QCOMPARE(quiz->label("Label2"), QStringLiteral("All Items Review Test\nItem 1 of 3"));
+        QCOMPARE(quiz->labelColour("Label2"), int(NeutralColour));
+        QCOMPARE(quiz->button(7)->text(), QStringLiteral("&Cancel"));
+        QVERIFY(quiz->button(7)->isEnabled());
+        QVERIFY(!quiz->button(6)->isEnabled());
+        QVERIFY(!quiz->button(11)->isEnabled());
+        QVERIFY(!quiz->button(12)->isEnabled());
+        QVERIFY(quiz->button(5)->isEnabled());
+        QCOMPARE(quiz->label("Label6"), QString()); // blank before any try, as designed
+        QCOMPARE(quiz->screen().findChild<QProgressBar*>()->value(), 0);
+        QVERIFY(quiz->documentText().contains(QStringLiteral("Question 7: which answer")));
+        QVERIFY(!quiz->documentText().contains(QStringLiteral("Explanation 7")));
+    }
+
+    void cleanRunScoresEveryItemRightAtTheFirstTry() {
+        auto quiz = open(2);
+        for (int position = 1; position <= 3; ++position) {
+            const char letter = static_cast<char>('A' + quiz->right());
+            quiz->answerRight();
+            QCOMPARE(quiz->label("Label2"), QStringLiteral("<%1> is the best choice.").arg(letter));
+            QCOMPARE(quiz->labelColour("Label2"), int(RightColour));
+            QVERIFY(quiz->documentText().contains(QStringLiteral("Explanation")));
+            QCOMPARE(quiz->button(7)->text(), QStringLiteral("&Break"));
+            QVERIFY(!quiz->button(5)->isEnabled());
+            QCOMPARE(quiz->button(11)->isEnabled(), position > 1);
+            QCOMPARE(quiz->button(6)->text(),
+                     position == 3 ? QStringLiteral("&Done") : QStringLiteral("&Next"));
+            if (position < 3)
+                quiz->next();
+        }
+        QCOMPARE(quiz->screen().findChild<QProgressBar*>()->value(), 100);
+        QCOMPARE(quiz->label("Label3"), QStringLiteral("Right: 3"));
+        QCOMPARE(quiz->label("Label4"), QStringLiteral("Wrong: 0"));
+        QCOMPARE(quiz->label("Label5"), QStringLiteral("Tries: 3"));
+        QCOMPARE(quiz->label("Label6"), QStringLiteral("100.0%"));
+        QCOMPARE(quiz->labelColour("Label6"), int(PassingColour));
+        QVERIFY(quiz->screen()
+                    .findChild<QLabel*>(QStringLiteral("HandShake"))
+                    ->isVisibleTo(&quiz->screen()));
+    }
+
+    void missedOnceThenRightByKeys() {
+        f->state.SoundOn = true;
+        auto quiz = open(1);
+        const int wrong = quiz->wrong(0);
+        quiz->type(static_cast<char>('a' + wrong));
+        QCOMPARE(
+            quiz->label("Label2"),
+            QStringLiteral("<%1> is not the best choice. Try Again...").arg(QChar('A' + wrong)));
+        QCOMPARE(quiz->labelColour("Label2"), int(WrongColour));
+        QVERIFY(!quiz->button(wrong)->isEnabled());
+        QCOMPARE(f->sound.tones(), (std::vector<Tone>{{440, 200}}));
+        QCOMPARE(quiz->label("Label6"), QStringLiteral("0.0%"));
+        QCOMPARE(quiz->labelColour("Label6"), int(WrongColour));
+        QVERIFY(!quiz->screen()
+                     .findChild<QLabel*>(QStringLiteral("HandShake"))
+                     ->isVisibleTo(&quiz->screen()));
+        QCOMPARE(quiz->screen().findChild<QFrame*>(QStringLiteral("Shape1"))->height(), 0);
+
+        // The same wrong key again is ignored: its button is disabled.
+        quiz->type(static_cast<char>('a' + wrong));
+        QCOMPARE(f->state.TestTally[3], 1);
+
+        quiz->type(static_cast<char>('A' + quiz->right()));
+        QCOMPARE(quiz->label("Label2"),
+                 QStringLiteral("<%1> is the best choice.").arg(QChar('A' + quiz->right())));
+        QCOMPARE(f->state.TestTally, (std::array<int16_t, 5>{0, 0, 1, 2, 0}));
+        QCOMPARE(quiz->label("Label4"), QStringLiteral("Wrong: 1"));
+        // A revealed item takes no further answer.
+        quiz->type(static_cast<char>('a' + quiz->wrong(1)));
+        QCOMPARE(f->state.TestTally[3], 2);
+    }
+
+    void rightKeyAtTheFirstTryNamesTheLetter() {
+        auto quiz = open(1);
+        const QChar letter('A' + quiz->right());
+        QTest::keyClick(quiz->button(0), letter.toLower().toLatin1());
+        QCOMPARE(quiz->label("Label2"),
+                 QStringLiteral("<%1> is the best choice.  (Answer is %1)").arg(letter));
+        QCOMPARE(f->state.TestTally[1], 1);
+    }
+
+    void missedThreeTimesIsOneWildGuess() {
+        auto quiz = open(1);
+        for (int k = 0; k < 3; ++k)
+            quiz->click(quiz->wrong(k));
+        QCOMPARE(quiz->label("Label2"),
+                 QStringLiteral("<%1> is not the best choice either. Try Again...")
+                     .arg(QChar('A' + quiz->wrong(2))));
+        quiz->answerRight();
+        QCOMPARE(f->state.TestMisses[1], 3);
+        QCOMPARE(f->state.TestTally, (std::array<int16_t, 5>{0, 0, 1, 4, 1}));
+        QCOMPARE(quiz->label("Label11"), QStringLiteral("Wild Guesses: 1"));
+        QVERIFY2(f->sound.tones().empty(), "no tone with the sound off");
+    }
+
+    void freeGuessForgivesOneMiss() {
+        auto quiz = open(1);
+        quiz->wish(2);
+        QCOMPARE(quiz->label("Label2"), QStringLiteral("Take a Free Guess!"));
+        QCOMPARE(f->state.WishesLeft[2], 0);
+        QVERIFY(quiz->button(5)->isEnabled());
+        const int wrong = quiz->wrong(0);
+        quiz->click(wrong);
+        QCOMPARE(quiz->label("Label2"),
+                 QStringLiteral("<%1> Try Again...").arg(QChar('A' + wrong)));
+        QVERIFY(!quiz->button(wrong)->isEnabled());
+        quiz->click(quiz->wrong(1));
+        // only one miss is forgiven
+
+        QCOMPARE(f->state.TestMisses[1], 1);
+        quiz->answerRight();
+        QCOMPARE(f->state.TestTally, (std::array<int16_t, 5>{0, 0, 1, 3, 0}));
+    }
+
+    void coinTossAfterAWrongTry() {
+        auto quiz = open(1);
+        const int first = quiz->wrong(0);
+        quiz->click(first);
+        const std::array<int16_t, 5> tally = f->state.TestTally;
+        // Draws land on the right answer, then on the wrong try's answer, then on a live one.
+        const int survivor = quiz->wrong(1);
+        f->random.script(
+            {(quiz->right() + 0.5) / 4.0, (first + 0.5) / 4.0, (survivor + 0.5) / 4.0});
+        quiz->wish(1);
+        QVERIFY(quiz->offered()[0]);
+        QCOMPARE(quiz->label("Label2"), QStringLiteral("Now it's a coin toss!"));
+        for (int i = 0; i < 4; ++i)
+            QCOMPARE(quiz->button(i)->isEnabled(), i == quiz->right() || i == survivor);
+        const QString text = quiz->documentText();
+        for (int i = 0; i < 4; ++i) {
+            const QString answer = QStringLiteral("%1. ").arg(QChar('A' + i));
+            QCOMPARE(text.contains(answer), i == quiz->right() || i == survivor);
+        }
+        QCOMPARE(f->state.TestTally, tally);
+        QCOMPARE(f->state.TestMisses[1], 1);
+
+        // With two answers left the dialog offers no second coin toss.
+        quiz->wish(0);
+        QVERIFY(!quiz->offered()[0]);
+    }
+
+    void expertAdviceKeepsTheItemOpen() {
+        f->state.TimerActive = true;
+        auto quiz = open(1);
+        QVERIFY(quiz->screen().Timer1->isActive());
+        quiz->wish(3);
+        QCOMPARE(quiz->label("Label2"),
+                 QStringLiteral("Here's what the expert says!\n(Scroll down as needed.)"));
+        QVERIFY(quiz->documentText().contains(QStringLiteral("Explanation 1: the book says so.")));
+        for (int i = 0; i < 4; ++i)
+            QVERIFY(quiz->button(i)->isEnabled());
+        QVERIFY(!quiz->button(6)->isEnabled());
+        QVERIFY(quiz->button(7)->isEnabled()); // still the first item of a new test
+        QVERIFY(!quiz->screen().Timer1->isActive());
+        QCOMPARE(f->state.ActiveWish, 0);
+
+        quiz->answerRight();
+        QCOMPARE(f->state.TestTally[1], 1);
+        QVERIFY(quiz->button(6)->isEnabled());
+    }
+
+    void clocksFollowTheItemWhileTheTimerIsActive() {
+        f->state.TimerActive = true;
+        auto quiz = open(1);
+        f->clock.advanceSeconds(65);
+        quiz->screen().Timer1_Timer();
+        QCOMPARE(quiz->label("Label8"), QStringLiteral("Item Time: 0:01:05"));
+        QCOMPARE(quiz->label("Label7"), QStringLiteral("Elapsed Time: 0:01:05"));
+        quiz->answerRight();
+        QVERIFY(!quiz->screen().Timer1->isActive());
+        QCOMPARE(qRound(f->state.TestElapsed * 86400), 65);
+        quiz->next();
+        f->clock.advanceSeconds(3600);
+        quiz->screen().Timer1_Timer();
+        QCOMPARE(quiz->label("Label7"), QStringLiteral("Elapsed Time: 1:01:05"));
+    }
+
+    void clocksKeepTheirCaptionsWithTheTimerOff() {
+        auto quiz = open(1);
+        QVERIFY(!quiz->screen().Timer1->isActive());
+        f->clock.advanceSeconds(30);
+        quiz->screen().Timer1_Timer();
+        QCOMPARE(quiz->label("Label8"), QStringLiteral("Item Time:"));
+        QCOMPARE(quiz->label("Label7"), QStringLiteral("Elapsed Time:"));
+        quiz->answerRight();
+        // time still counts with no clock
+
+        QCOMPARE(qRound(f->state.TestElapsed * 86400), 30);
+    }
+
+    void threeWishesUsedDisableAladdinForTheRestOfTheTest() {
+        auto quiz = open(1); // six items: one wish of each kind
+        quiz->wish(2);
+        quiz->wish(1);
+        QVERIFY(quiz->button(5)->isEnabled());
+        quiz->wish(3);
+        QVERIFY(!quiz->button(5)->isEnabled());
+        // opening the dialog dropped the free guess
+
+        QCOMPARE(f->state.ActiveWish, 0);
+        quiz->answerRight();
+        quiz->next();
+        QVERIFY(!quiz->button(5)->isEnabled());
+    }
+
+    void steppingBackShowsTheAnsweredItemWithItsLetter() {
+        auto quiz = open(1);
+        const QChar first('A' + quiz->right());
+        quiz->answerRight();
+        quiz->next();
+        quiz->click(quiz->wrong(0));
+        quiz->answerRight();
+        const std::array<int16_t, 5> tally = f->state.TestTally;
+        quiz->click(11);
+        QCOMPARE(f->state.TestPosition, 1);
+        QCOMPARE(quiz->label("Label2"),
+                 QStringLiteral("All Items Review Test\nItem 1 of 6  (Answer is %1)").arg(first));
+        QCOMPARE(quiz->labelColour("Label2"), int(NeutralColour));
+        for (int i : {0, 1, 2, 3, 5, 11})
+            QVERIFY(!quiz->button(i)->isEnabled());
+        QVERIFY(quiz->documentText().contains(QStringLiteral("Explanation 1")));
+        QCOMPARE(f->state.TestTally, tally);
+        quiz->next();
+        QCOMPARE(f->state.TestPosition, 2);
+        QCOMPARE(f->state.TestFurthest, 2);
+        QVERIFY2(quiz->button(6)->isEnabled(), "an answered item is revealed again");
+    }
+};
+
+} // namespace tessera
+
+QTEST_MAIN(tessera::Quiz800ItemsTest)
+#include "quiz800_items_test.moc"

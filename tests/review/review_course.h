@@ -1,0 +1,45 @@
+#pragma once
+// A small course for the review screens' tests, and the doubles a screen is given.
+
+#include "platform/services.h"
+#include "tests/support/fake_clock.h"
+#include "tests/support/fake_random.h"
+#include "tests/support/recording_printer.h"
+#include "tests/support/recording_screens.h"
+#include "tests/support/scripted_dialogs.h"
+#include "tests/support/silent_sound.h"
+
+#include <string>
+
+namespace tessera {
+
+// Topic t has SmallCourseCounts[t] items; topic 6's item 8 has the first picture.
+inline constexpr std::array<int, TopicCount + 1> SmallCourseCounts = {0, 6, 3, 2, 2, 2, 8, 2, 2, 2};
+
+// The right letter of a running item number, spread over A to D.
+char RightLetterOf(int runningNumber);
+
+// The item's question fragment names its running number and its four answers.
+std::string SmallCourseItem(int topic, int ordinal, int runningNumber);
+
+// Fills the catalogue and cuts nothing from disk: the course lives in memory only.
+void FillSmallCourse(SessionState& state);
+
+struct ReviewScreenFixture {
+    ScriptedDialogs dialogs;
+    FakeClock clock;
+    FakeRandom random;
+    SilentSound sound;
+    RecordingPrinter printer;
+    Services services{dialogs, clock, random, sound, printer};
+    SessionState state;
+    RecordingScreenHost screens;
+    ScreenContext context{state, services, screens};
+
+    // A first run: a fresh session on the small course, no progress file, 70% to pass.
+    void startFresh();
+    // A later run: a fresh session that restores what the progress file holds.
+    void startNewRun();
+};
+
+} // namespace tessera
