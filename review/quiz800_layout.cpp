@@ -22,6 +22,8 @@ namespace {
 QLabel* makeLabel(QWidget* parent, const char* name, const QString& caption) {
     auto* label = new QLabel(caption, parent);
     label->setObjectName(QString::fromLatin1(name));
+    // Feedback such as "<B> is not the best choice." is text, not markup.
+    label->setTextFormat(Qt::PlainText);
     return label;
 }
 
@@ -78,6 +80,12 @@ void Quiz800::buildControls() {
     Label6->setAccessibleName(QStringLiteral("Score"));
     Label6->setAlignment(Qt::AlignCenter);
     enlarge(Label6, 1.6, true);
+    // The score's pure green and red read best on a dark board.
+    Label6->setAutoFillBackground(true);
+    QPalette board = Label6->palette();
+    board.setColor(QPalette::Window, QColor(40, 44, 52));
+    Label6->setPalette(board);
+    Label6->setMargin(4);
     Label8 = makeLabel(Frame1, "Label8", QStringLiteral("Item Time:"));
     Label7 = makeLabel(Frame1, "Label7", QStringLiteral("Elapsed Time:"));
     auto* panel = new QVBoxLayout(Frame1);
@@ -139,6 +147,9 @@ void Quiz800::buildControls() {
     auto* text = new QVBoxLayout;
     text->addWidget(RichTextBox1, 1);
     text->addWidget(Shape4);
+    // Wide enough for the longest clock caption, so that the column does not jump as labels grow.
+    Frame1->setMinimumWidth(
+        Frame1->fontMetrics().horizontalAdvance(QStringLiteral("Elapsed Time: 00:00:00")) + 32);
     auto* side = new QVBoxLayout;
     side->addWidget(Frame1);
     side->addWidget(m_gauge, 1);

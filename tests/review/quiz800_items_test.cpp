@@ -78,6 +78,9 @@ private Q_SLOTS:
             quiz->label("Label2"),
             QStringLiteral("<%1> is not the best choice. Try Again...").arg(QChar('A' + wrong)));
         QCOMPARE(quiz->labelColour("Label2"), int(WrongColour));
+        // "<B>" must show as written, not be taken for markup.
+        QCOMPARE(quiz->screen().findChild<QLabel*>(QStringLiteral("Label2"))->textFormat(),
+                 Qt::PlainText);
         QVERIFY(!quiz->button(wrong)->isEnabled());
         QCOMPARE(f->sound.tones(), (std::vector<Tone>{{440, 200}}));
         QCOMPARE(quiz->label("Label6"), QStringLiteral("0.0%"));
