@@ -14,6 +14,7 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QStyle>
 #include <QTimer>
 
 #include <cmath>
@@ -256,6 +257,12 @@ void Quiz800::keyPressEvent(QKeyEvent* event) {
 }
 
 bool Quiz800::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == Shape4 && event->type() == QEvent::Resize) {
+        // The text wraps where the line under it ends, inside the view's frame and scroll bar.
+        const int chrome = 2 * RichTextBox1->frameWidth() +
+                           style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, RichTextBox1);
+        RichTextBox1->setRightMargin(15 * std::max(Shape4->width() - chrome, 40));
+    }
     if (event->type() != QEvent::KeyPress)
         return QWidget::eventFilter(watched, event);
     auto* key = static_cast<QKeyEvent*>(event);

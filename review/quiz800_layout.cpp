@@ -69,6 +69,7 @@ void Quiz800::buildControls() {
     Shape4->setObjectName(QStringLiteral("Shape4"));
     Shape4->setFrameShape(QFrame::HLine);
     Shape4->setFrameShadow(QFrame::Sunken);
+    Shape4->installEventFilter(this);
 
     Frame1 = new QGroupBox(QStringLiteral("Performance"), this);
     Frame1->setObjectName(QStringLiteral("Frame1"));

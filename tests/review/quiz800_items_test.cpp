@@ -40,6 +40,14 @@ private Q_SLOTS:
         QCOMPARE(quiz->screen().findChild<QProgressBar*>()->value(), 0);
         QVERIFY(quiz->documentText().contains(QStringLiteral("Question 7: which answer")));
         QVERIFY(!quiz->documentText().contains(QStringLiteral("Explanation 7")));
+
+        // The right margin follows the line under the text as the window grows.
+        quiz->screen().resize(900, 640);
+        quiz->screen().show();
+        QVERIFY(QTest::qWaitForWindowExposed(&quiz->screen()));
+        const int narrow = quiz->screen().RichTextBox1->rightMargin();
+        quiz->screen().resize(1200, 700);
+        QTRY_VERIFY(quiz->screen().RichTextBox1->rightMargin() > narrow + 15 * 250);
     }
 
     void cleanRunScoresEveryItemRightAtTheFirstTry() {
