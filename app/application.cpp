@@ -111,10 +111,14 @@ QWidget* Application::load(ScreenName name) {
 
 QWidget* Application::show(ScreenName name) {
     QWidget* screen = load(name);
-    if (screen != nullptr) {
-        screen->show();
+    if (screen == nullptr)
+        return nullptr;
+    if (screen->isVisible()) {
+        // Shown again while it stands open, perhaps behind the others: bring it forward.
         screen->raise();
         screen->activateWindow();
+    } else {
+        screen->show();
     }
     return screen;
 }
