@@ -71,6 +71,11 @@ CodePage::CodePage(int number) : m_number(number), m_converter(NoConverter) {
     }
 }
 
+CodePage::~CodePage() {
+    if (m_converter != NoConverter)
+        iconv_close(m_converter);
+}
+
 QString CodePage::pair(unsigned char lead, unsigned char trail) const {
     const char bytes[2] = {static_cast<char>(lead), static_cast<char>(trail)};
     Converted two = convert(m_converter, bytes, 2);

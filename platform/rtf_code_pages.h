@@ -18,6 +18,10 @@ public:
     // The code page that an RTF \fcharset value stands for; 0 where it names none.
     static int numberForCharset(int charset);
 
+    ~CodePage();
+    CodePage(const CodePage&) = delete;
+    CodePage& operator=(const CodePage&) = delete;
+
     int number() const { return m_number; }
     bool hasLeadBytes() const { return m_hasLeadBytes; }
     bool isLeadByte(unsigned char byte) const { return m_units[byte] == LeadByte; }
@@ -31,7 +35,7 @@ private:
     explicit CodePage(int number);
 
     int m_number;
-    iconv_t m_converter; // kept open for the run, like the table of pages
+    iconv_t m_converter; // open for the run, like the table of pages
     bool m_hasLeadBytes = false;
     std::array<char16_t, 256> m_units{};
 };
