@@ -5,6 +5,7 @@
 namespace tessera {
 namespace {
 
+// A label is at most this long, written or made, so a list cannot swell what it labels.
 constexpr std::size_t MaxLevelText = 64;
 
 std::u16string ascii(const std::string& text) {
@@ -97,7 +98,8 @@ std::u16string RtfLists::nextLabel(int number, int level) {
     const Level& shown = levels[level];
     std::u16string label;
     const std::size_t length = shown.text.empty() ? 0 : shown.text[0];
-    for (std::size_t i = 1; i <= length && i < shown.text.size(); ++i) {
+    for (std::size_t i = 1; i <= length && i < shown.text.size() && label.size() < MaxLevelText;
+         ++i) {
         const char16_t unit = shown.text[i];
         if (unit < MaxLevels && unit < levels.size())
             label +=
