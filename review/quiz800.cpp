@@ -193,6 +193,7 @@ void Quiz800::UpdatePerformance() {
     Label5->setText(QString::fromStdString(labels.tries));
     if (!labels.scored)
         return;
+    Label6->setAutoFillBackground(true);
     setTextColour(Label6, labels.scoreColour);
     Label6->setText(QString::fromStdString(labels.score));
     Label11->setText(QString::fromStdString(labels.wildGuesses));

@@ -69,6 +69,7 @@ void Quiz800::buildControls() {
     Shape4->setObjectName(QStringLiteral("Shape4"));
     Shape4->setFrameShape(QFrame::HLine);
     Shape4->setFrameShadow(QFrame::Sunken);
+    Shape4->setAccessibleName(QStringLiteral("Right margin of the text"));
     Shape4->installEventFilter(this);
 
     Frame1 = new QGroupBox(QStringLiteral("Performance"), this);
@@ -81,8 +82,7 @@ void Quiz800::buildControls() {
     Label6->setAccessibleName(QStringLiteral("Score"));
     Label6->setAlignment(Qt::AlignCenter);
     enlarge(Label6, 1.6, true);
-    // The score's pure green and red read best on a dark board.
-    Label6->setAutoFillBackground(true);
+    // The score's pure green and red read best on a dark board, shown once there is a score.
     QPalette board = Label6->palette();
     board.setColor(QPalette::Window, QColor(40, 44, 52));
     Label6->setPalette(board);

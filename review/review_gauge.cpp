@@ -40,10 +40,12 @@ ReviewGauge::ReviewGauge(QWidget* parent) : QWidget(parent) {
     Shape2->setFrameShape(QFrame::VLine);
     Shape2->setFrameShadow(QFrame::Plain);
     Shape2->setLineWidth(2);
+    Shape2->setAccessibleName(QStringLiteral("Gauge scale"));
 
     Shape1 = new QFrame(this);
     Shape1->setObjectName(QStringLiteral("Shape1"));
     Shape1->setAutoFillBackground(true);
+    Shape1->setAccessibleName(QStringLiteral("Score bar"));
     Shape1->setFrameShape(QFrame::Box);
     Shape1->setFrameShadow(QFrame::Plain);
     Shape1->hide(); // shown once the pass mark is set

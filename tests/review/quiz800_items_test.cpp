@@ -4,6 +4,7 @@
 #include "quiz800_screen.h"
 #include "review/item_scoring.h"
 
+#include <QAccessible>
 #include <QProgressBar>
 
 namespace tessera {
@@ -48,6 +49,29 @@ private Q_SLOTS:
         const int narrow = quiz->screen().RichTextBox1->rightMargin();
         quiz->screen().resize(1200, 700);
         QTRY_VERIFY(quiz->screen().RichTextBox1->rightMargin() > narrow + 15 * 250);
+    }
+
+    void everyControlHasANameAndEachMnemonicOneButton() {
+        auto quiz = open(1);
+        QSet<QChar> mnemonics;
+        for (QWidget* widget : quiz->screen().findChildren<QWidget*>()) {
+            // Controls are the named widgets; the text view's own parts are Qt's.
+            if (widget->objectName().isEmpty() ||
+                widget->objectName().startsWith(QStringLiteral("qt_")))
+                continue;
+            QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
+            QVERIFY2(accessible && !accessible->text(QAccessible::Name).isEmpty(),
+                     qPrintable(widget->objectName()));
+            if (auto* button = qobject_cast<QPushButton*>(widget)) {
+                const qsizetype amp = button->text().indexOf(QLatin1Char('&'));
+                if (amp < 0)
+                    continue;
+                const QChar key = button->text().at(amp + 1).toLower();
+                QVERIFY2(!mnemonics.contains(key), qPrintable(button->text()));
+                mnemonics.insert(key);
+            }
+        }
+        QCOMPARE(mnemonics.size(), 8);
     }
 
     void cleanRunScoresEveryItemRightAtTheFirstTry() {
