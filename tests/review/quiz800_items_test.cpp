@@ -3,6 +3,8 @@
 
 #include "quiz800_screen.h"
 #include "review/item_scoring.h"
+#include "review/pict_form.h"
+#include "review/review_test.h"
 
 #include <QAccessible>
 #include <QProgressBar>
@@ -267,6 +269,27 @@ private Q_SLOTS:
         quiz->answerRight();
         quiz->next();
         QVERIFY(!quiz->button(5)->isEnabled());
+    }
+
+    void pictureOpensWithItsItemAndClosesWithTheNext() {
+        f->state.CurrentTopic = 6;
+        BuildAllItemsTest(f->state, f->random, 0);
+        f->state.TestPosition = 7;
+        f->state.TestFurthest = 7;
+        Quiz800Driver quiz(*f);
+        QVERIFY(!quiz.button(12)->isEnabled());
+        PictForm picture; // what the host loads for the next item
+        f->screens.place(ScreenName::PictForm, &picture);
+        quiz.next();
+        QVERIFY(quiz.button(12)->isEnabled());
+        QCOMPARE(picture.twips().windowWidth, 263 * 15 + 70);
+        QCOMPARE(picture.twips().imageHeight, 232 * 15);
+        quiz.answerRight();
+        f->screens.clearCalls();
+        quiz.click(11);
+        QVERIFY(!quiz.button(12)->isEnabled());
+        const std::vector<ScreenCall> unloaded = {{ScreenCallKind::Unload, ScreenName::PictForm}};
+        QCOMPARE(f->screens.calls(), unloaded);
     }
 
     void steppingBackShowsTheAnsweredItemWithItsLetter() {
