@@ -4,13 +4,9 @@
 #include "core/content_file.h"
 #include "core/session_state.h"
 #include "exam/exam_test.h"
-#include "tests/support/fake_clock.h"
-#include "tests/support/fake_random.h"
 #include "tests/support/full_course_generator.h"
-#include "tests/support/recording_printer.h"
 #include "tests/support/recording_screens.h"
-#include "tests/support/scripted_dialogs.h"
-#include "tests/support/silent_sound.h"
+#include "tests/support/test_services.h"
 
 #include <QApplication>
 #include <QPixmap>
@@ -27,14 +23,9 @@ void OpenCustomExam(benchmark::State& run) {
     FillCatalogue(state);
     const std::string file = FullCourseContent();
     CutContent(std::string_view(file.data(), file.size() - 1), state.catalogue, state.content);
-    FakeClock clock;
-    FakeRandom random;
-    ScriptedDialogs dialogs;
-    SilentSound sound;
-    RecordingPrinter printer;
-    Services services{dialogs, clock, random, sound, printer};
+    TestServices doubles;
     RecordingScreenHost screens;
-    ScreenContext context{state, services, screens};
+    ScreenContext context{state, doubles.services, screens};
     std::unique_ptr<ExamTest> exam;
     for (auto _ : run) {
         state.ExamKind = state.ExamType = 3;

@@ -1,22 +1,10 @@
 #include "exam/exam_set_form.h"
 
+#include "core/navigation.h"
 #include "core/session_state.h"
 #include "exam/exam_format.h"
 
 namespace tessera {
-
-std::string TakeCounterSuffix(int count) {
-    switch (count) {
-    case 0:
-        return " - 1st Drill";
-    case 1:
-        return " - 2nd Drill";
-    case 2:
-        return " - Last Drill";
-    default:
-        return " - Finished";
-    }
-}
 
 std::string BuilderRowText(int value) {
     return CountColumns(value);
@@ -51,7 +39,7 @@ ExamSetForm::ExamSetForm(SessionState& state) : m_state(state) {
     m_scrambled = state.ExamScrambled;
     for (int i = 0; i < 3; ++i) {
         const int count = state.TakeCounts[TopicCount + 1 + i];
-        m_examCaption[i] = ExamCaptions[i] + TakeCounterSuffix(count);
+        m_examCaption[i] = ExamCaptions[i] + DrillSuffix(count);
         if (count >= 3) {
             m_examEnabled[i] = false;
             if (m_exam == i) {

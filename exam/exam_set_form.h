@@ -16,9 +16,6 @@ inline constexpr int TimeRowCount = 51;  // 5 to 255 minutes in steps of 5
 inline constexpr int ItemRowCount = 300; // 1 to 300 questions
 inline constexpr int AuthorExamTimeRow = 38;
 
-// The suffix of an exam's caption by its take counter.
-std::string TakeCounterSuffix(int count);
-
 // The row texts of the two lists and the topic captions.
 std::string BuilderRowText(int value);
 std::string TopicCaption(const SessionState& state, int topic);
