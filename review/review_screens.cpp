@@ -2,6 +2,7 @@
 
 #include "review/pict_form.h"
 #include "review/quiz800.h"
+#include "review/quiz_summ.h"
 
 namespace tessera {
 
@@ -9,6 +10,7 @@ namespace tessera {
 void RegisterReviewScreens(ScreenRegistry& registry) {
     registry.add<Quiz800>(ScreenName::Quiz800);
     registry.add<PictForm>(ScreenName::PictForm);
+    registry.add<QuizSumm>(ScreenName::QuizSumm);
 }
 
 } // namespace tessera

@@ -1,0 +1,157 @@
+// QuizSumm's controls: heads over the list, the list and its totals, the two frames of options
+// and the row of commands. The window scales them through its layouts.
+
+#include "review/quiz_summ.h"
+
+#include <QFontDatabase>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStyle>
+#include <QVBoxLayout>
+
+namespace tessera {
+
+namespace {
+
+// The list's columns in characters, as the row texts fill them.
+constexpr std::array<int, 8> ColumnWidths = {13, 12, 8, 7, 9, 10, 8, 12};
+// Label2's figures start this many characters to the right of the rows' own.
+constexpr int TotalsIndent = 15;
+
+QFont FixedPitchFont() {
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setStyleHint(QFont::Monospace);
+    font.setFixedPitch(true);
+    return font;
+}
+
+void Name(QWidget* control, const QString& name, const QString& accessibleName) {
+    control->setObjectName(name);
+    control->setAccessibleName(accessibleName);
+}
+
+} // namespace
+
+QGroupBox* QuizSumm::makeOptions(const char* caption, const char* array,
+                                 const QStringList& captions, QRadioButton** options) {
+    auto* frame = new QGroupBox(QString::fromLatin1(caption));
+    auto* layout = new QVBoxLayout(frame);
+    for (int i = 0; i < captions.size(); ++i) {
+        auto* option = new QRadioButton(captions[i]);
+        Name(option, QStringLiteral("%1_%2").arg(QLatin1String(array)).arg(i), captions[i]);
+        layout->addWidget(option);
+        options[i] = option;
+    }
+    return frame;
+}
+
+void QuizSumm::buildControls() {
+    setObjectName(QStringLiteral("QuizSumm"));
+    setWindowTitle(QStringLiteral("Review Test Scoring Report Card"));
+
+    const QStringList heads = {
+        QStringLiteral("Test Type"),       QStringLiteral("Date Taken"),
+        QStringLiteral("Percent Correct"), QStringLiteral("Questions Asked"),
+        QStringLiteral("Wild Guesses"),    QStringLiteral("Tries Ratio"),
+        QStringLiteral("Scrambled Order"), QStringLiteral("Time Used (h:m:s)")};
+    auto* headRow = new QHBoxLayout;
+    headRow->setSpacing(0);
+    for (int i = 0; i < 8; ++i) {
+        Label1[i] = new QLabel(heads[i]);
+        Name(Label1[i], QStringLiteral("Label1_%1").arg(i), heads[i]);
+        Label1[i]->setWordWrap(true);
+        Label1[i]->setAlignment((i == 0 ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignBottom);
+        headRow->addWidget(Label1[i]);
+    }
+    headRow->addStretch(1);
+
+    List1 = new QListWidget;
+    Name(List1, QStringLiteral("List1"), QStringLiteral("Review tests"));
+    List1->setFont(FixedPitchFont());
+    List1->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    connect(List1, &QListWidget::currentRowChanged, this,
+            [this](int row) { List1_Click(row + 1); });
+
+    Label2 = new QLabel(QStringLiteral("Total:"));
+    Name(Label2, QStringLiteral("Label2"), QStringLiteral("Totals"));
+    Label2->setFont(FixedPitchFont());
+    Label2->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    Label3 = new QLabel(QStringLiteral("Topic Number:"));
+    Name(Label3, QStringLiteral("Label3"), QStringLiteral("Topic of the selected test"));
+    auto* label4 = new QLabel(
+        QStringLiteral("Note: You may take three complete drills of any topic review test."));
+    Name(label4, QStringLiteral("Label4"), label4->text());
+    label4->setWordWrap(true);
+
+    Frame1 =
+        makeOptions("Sort List By:", "Option1",
+                    {QStringLiteral("Earliest &Date Taken"), QStringLiteral("&Latest Date Taken"),
+                     QStringLiteral("Percent &Correct"), QStringLiteral("&Topic Sequence"),
+                     QStringLiteral("Percent &Wild Guesses")},
+                    Option1.data());
+    Name(Frame1, QStringLiteral("Frame1"), QStringLiteral("Sort List By"));
+    Frame2 = makeOptions("Include", "Option2",
+                         {QStringLiteral("&All Questions"), QStringLiteral("&Missed Questions"),
+                          QStringLiteral("Wild &Guesses")},
+                         Option2.data());
+    Name(Frame2, QStringLiteral("Frame2"), QStringLiteral("Include in a retake"));
+    Option2[0]->setChecked(true);
+    for (int i = 0; i < 5; ++i) {
+        connect(Option1[i], &QRadioButton::toggled, this, [this, i](bool on) {
+            if (on)
+                Option1_Click(i);
+        });
+    }
+    for (int i = 0; i < 3; ++i)
+        connect(Option2[i], &QRadioButton::clicked, this, [this, i] { Option2_Click(i); });
+
+    const std::array<const char*, 5> captions{"&Print", "&Erase Test", "&Done", "&Help", "&Retake"};
+    auto* commands = new QVBoxLayout;
+    for (int i = 0; i < 5; ++i) {
+        Command1[i] = new QPushButton(QString::fromLatin1(captions[i]));
+        Name(Command1[i], QStringLiteral("Command1_%1").arg(i),
+             Command1[i]->text().remove(QLatin1Char('&')));
+        Command1[i]->setAutoDefault(false);
+        connect(Command1[i], &QPushButton::clicked, this, [this, i] { Command1_Click(i); });
+        commands->addWidget(Command1[i]);
+    }
+    commands->addStretch(1);
+    Command1[3]->setEnabled(m_context.screens.isAvailable(ScreenName::Help));
+    Command1[4]->setEnabled(m_context.screens.isAvailable(ScreenName::Quiz800));
+
+    auto* below = new QHBoxLayout;
+    auto* notes = new QVBoxLayout;
+    notes->addWidget(Label3);
+    notes->addWidget(label4);
+    notes->addStretch(1);
+    below->addLayout(notes, 1);
+    below->addWidget(Frame1);
+    below->addWidget(Frame2);
+    below->addLayout(commands);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(headRow);
+    layout->addWidget(List1, 1);
+    layout->addWidget(Label2);
+    layout->addLayout(below);
+    alignHeads();
+    resize(760, 520);
+}
+
+// The heads stand over their columns in whatever size the list's font has.
+void QuizSumm::alignHeads() {
+    const QFontMetrics metrics(List1->font());
+    const int column = metrics.horizontalAdvance(QLatin1Char('0'));
+    const int inset =
+        List1->frameWidth() + List1->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1;
+    for (size_t i = 0; i < Label1.size(); ++i)
+        Label1[i]->setFixedWidth(ColumnWidths[i] * column + (i == 0 ? inset : 0));
+    Label1[0]->setIndent(inset);
+    Label2->setIndent(inset + TotalsIndent * column);
+}
+
+} // namespace tessera
