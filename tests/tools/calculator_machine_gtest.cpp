@@ -1,0 +1,172 @@
+// The calculator's state machine, driven key by key through CalculatorKey's table.
+
+#include "tools/calculator_keys.h"
+#include "tools/calculator_machine.h"
+#include "tools/numeric_text.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <string>
+#include <vector>
+
+namespace tessera {
+
+namespace {
+
+// '~' stands for F9, the sign key, which has no character code.
+std::vector<CalculatorMessage> typeKeys(CalculatorMachine& machine, const std::string& keys) {
+    std::vector<CalculatorMessage> shown;
+    for (const char key : keys) {
+        const CalculatorKeyPress press = key == '~'
+                                             ? CalculatorKeyPress{CalculatorControl::Number, 10}
+                                             : CalculatorKeyFor(static_cast<unsigned char>(key));
+        if (auto message = machine.press(press.control, press.index))
+            shown.push_back(*message);
+    }
+    return shown;
+}
+
+struct KeyCase {
+    const char* name;
+    std::string keys;
+    std::string readout;
+    std::string message; // the one message shown, if any
+};
+
+const std::string Escape = "\x1b";
+const std::string MemoryAdd = "\x10";    // Ctrl+P
+const std::string MemoryRecall = "\x12"; // Ctrl+R
+const std::string MemorySubtract = "\r"; // Ctrl+M
+
+class CalculatorKeys : public testing::TestWithParam<KeyCase> {};
+
+TEST_P(CalculatorKeys, ShowTheReadoutAndMessage) {
+    CalculatorMachine machine;
+    const auto shown = typeKeys(machine, GetParam().keys);
+    EXPECT_EQ(machine.readout(), GetParam().readout);
+    if (GetParam().message.empty()) {
+        EXPECT_TRUE(shown.empty());
+    } else {
+        ASSERT_EQ(shown.size(), 1u);
+        EXPECT_EQ(shown[0].text, GetParam().message);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Sequences, CalculatorKeys,
+    testing::Values(KeyCase{"LeftToRightWithoutPrecedence", "2+3X4=", "20", ""},
+                    KeyCase{"ZeroOnAFreshDisplay", "0", "0.", ""},
+                    KeyCase{"ZerosCountAfterThePoint", ".05", "0.05", ""},
+                    KeyCase{"EqualsTakesTheDisplay", "5+=", "10", ""},
+                    KeyCase{"SecondOperatorReplacesTheFirst", "5++3=", "8", ""},
+                    KeyCase{"NextEntryStartsAfterAResult", "2*3=7-1=", "6", ""},
+                    KeyCase{"DivideByZero", "7/0=", "7.", "Can't divide by zero"},
+                    KeyCase{"SignOnZeroDoesNothing", "~", "0.", ""},
+                    KeyCase{"SignTwiceGivesItBack", "5~~", "5.", ""},
+                    KeyCase{"SignOnAnEntry", "5~", "-5.", ""},
+                    KeyCase{"RootOfANegative", "4~@", "-4.", "Change sign to +."},
+                    KeyCase{"Root", "2.25@", "1.5", ""},
+                    KeyCase{"PercentScalesTheEntry", "200X10%", "20", ""},
+                    KeyCase{"PercentDoesNotTakeAShare", "200+10%", "200.1", ""},
+                    KeyCase{"ClearEntryKeepsThePendingOperator", "5+3" + Escape + "2=", "7", ""},
+                    KeyCase{"ClearTwiceClearsAll", "5+3" + Escape + Escape + "2=", "2.", ""},
+                    KeyCase{"FifteenDigitsCarry", "1/3=X3=", "0.999999999999999", ""},
+                    KeyCase{"RecallMidEntryThenADigit",
+                            "12" + MemoryAdd + Escape + "3" + MemoryRecall + "5", "15.", ""},
+                    KeyCase{"MemoryRecallOfZeroKeepsTheEntry",
+                            "8" + MemoryAdd + MemorySubtract + MemoryRecall, "8.", ""},
+                    KeyCase{"Overflow", std::string(200, '9') + "X" + std::string(200, '9') + "=",
+                            "0.", "Sorry, Overflow!"}),
+    [](const testing::TestParamInfo<KeyCase>& info) { return std::string(info.param.name); });
+
+TEST(CalculatorMachine, DivideByZeroLeavesTheFirstOperandAndPendsEquals) {
+    CalculatorMachine machine;
+    const auto shown = typeKeys(machine, "7/0=");
+    ASSERT_EQ(shown.size(), 1u);
+    EXPECT_EQ(shown[0].title, "Calculator");
+    EXPECT_FALSE(shown[0].exclamation);
+    EXPECT_EQ(machine.pendingOperator(), "=");
+    typeKeys(machine, "+1=");
+    EXPECT_EQ(machine.readout(), "8");
+}
+
+TEST(CalculatorMachine, OverflowResetsAllButTheMemory) {
+    CalculatorMachine machine;
+    typeKeys(machine, "4" + MemoryAdd + std::string(200, '9') + "X");
+    const auto shown = typeKeys(machine, std::string(200, '9') + "+");
+    ASSERT_EQ(shown.size(), 1u);
+    EXPECT_EQ(shown[0].title, "ERROR");
+    EXPECT_TRUE(shown[0].exclamation);
+    EXPECT_EQ(machine.lastInput(), LastInputKind::None);
+    EXPECT_EQ(machine.pendingOperator(), " ");
+    EXPECT_EQ(machine.operandCount(), 0);
+    EXPECT_EQ(machine.memoryLine(), "Mem:  4");
+    typeKeys(machine, "3=");
+    EXPECT_EQ(machine.readout(), "3.");
+}
+
+TEST(CalculatorMachine, ClearCountsPressesInARowAcrossOperators) {
+    CalculatorMachine machine;
+    typeKeys(machine, "0");
+    EXPECT_EQ(machine.lastInput(), LastInputKind::None);
+    typeKeys(machine, "5" + Escape);
+    EXPECT_EQ(machine.lastInput(), LastInputKind::ClearEntry);
+    EXPECT_EQ(machine.clearPresses(), 1);
+    typeKeys(machine, "+~" + Escape);
+    EXPECT_EQ(machine.clearPresses(), 0);
+    EXPECT_EQ(machine.pendingOperator(), " ");
+    EXPECT_EQ(machine.lastInput(), LastInputKind::None);
+    typeKeys(machine, Escape + "%");
+    EXPECT_EQ(machine.clearPresses(), 0);
+}
+
+TEST(CalculatorMachine, MemoryLineFollowsTheMemory) {
+    CalculatorMachine machine;
+    typeKeys(machine, "2.5" + MemoryAdd);
+    EXPECT_EQ(machine.memoryLine(), "Mem:  2.5");
+    // Memory keys leave the entry open; a clear starts the next one.
+    typeKeys(machine, Escape + "4" + MemorySubtract);
+    EXPECT_EQ(machine.memoryLine(), "Mem:  -1.5");
+    typeKeys(machine, Escape + "1.5" + MemoryAdd);
+    EXPECT_EQ(machine.memoryLine(), "");
+    typeKeys(machine, Escape + "9" + MemoryAdd + "\x0c"); // Ctrl+L
+    EXPECT_EQ(machine.memoryLine(), "");
+    EXPECT_EQ(machine.memoryValue(), 0);
+}
+
+TEST(CalculatorKeyTable, CodesPressTheirControls) {
+    using enum CalculatorControl;
+    for (const int code : {3, 22, 24, 26})
+        EXPECT_EQ(CalculatorKeyFor(code).control, UnloadCalculator) << code;
+    for (const int code : {'*', 'X', 'x'}) {
+        EXPECT_EQ(CalculatorKeyFor(code).control, Operator);
+        EXPECT_EQ(CalculatorKeyFor(code).index, 2);
+    }
+    EXPECT_TRUE(CalculatorKeyFor('7').focusEquals);
+    EXPECT_EQ(CalculatorKeyFor('7').index, 7);
+    EXPECT_FALSE(CalculatorKeyFor('+').focusEquals);
+    EXPECT_EQ(CalculatorKeyFor(13).index, 5);
+    EXPECT_EQ(CalculatorKeyFor('a').control, Nothing);
+    EXPECT_EQ(CalculatorKeyFor(120 - 32).index, 2); // F9's code is "x", not the sign key
+}
+
+TEST(NumericText, ReadsTheLongestPrefixAndWritesFifteenDigits) {
+    EXPECT_EQ(NumericValue("12."), 12);
+    EXPECT_EQ(NumericValue("-3.5x"), -3.5);
+    EXPECT_EQ(NumericValue("1E+20"), 1e20);
+    EXPECT_EQ(NumericValue("  7E"), 7);
+    EXPECT_EQ(NumericValue(""), 0);
+    EXPECT_EQ(NumericValue("abc"), 0);
+    EXPECT_EQ(NumericValue("1E-400"), 0);
+    EXPECT_TRUE(std::isinf(NumericValue("-1E+400")));
+    EXPECT_EQ(FloatText(5), "5");
+    EXPECT_EQ(FloatText(0.5), "0.5");
+    EXPECT_EQ(FloatText(1e20), "1E+20");
+    EXPECT_EQ(FloatText(-0.0), "0");
+    EXPECT_EQ(FloatText(123456789012345678.0), "1.23456789012346E+17");
+}
+
+} // namespace
+
+} // namespace tessera

@@ -1,0 +1,115 @@
+// The calculator on screen: its captions, keys wherever the focus stands, and its messages.
+
+#include "tests/support/recording_screens.h"
+#include "tests/support/test_services.h"
+#include "tools/calculator.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+
+#include <memory>
+
+namespace tessera {
+
+class CalculatorTest : public QObject {
+    Q_OBJECT
+
+private:
+    std::unique_ptr<TestServices> doubles;
+    SessionState state;
+    RecordingScreenHost screens;
+    std::unique_ptr<ScreenContext> context;
+    std::unique_ptr<Calculator> calculator;
+
+    QPushButton* button(const char* name) const {
+        return calculator->findChild<QPushButton*>(QString::fromLatin1(name));
+    }
+
+private Q_SLOTS:
+    void init() {
+        doubles = std::make_unique<TestServices>();
+        screens.clearCalls();
+        context = std::make_unique<ScreenContext>(ScreenContext{state, doubles->services, screens});
+        calculator = std::make_unique<Calculator>(*context);
+        calculator->show();
+        calculator->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(calculator.get()));
+    }
+
+    void cleanup() { calculator.reset(); }
+
+    void opensWithItsCaptions() {
+        QCOMPARE(calculator->windowTitle(), QStringLiteral("Calculator"));
+        QCOMPARE(calculator->Readout->text(), QStringLiteral("0."));
+        QCOMPARE(button("Operator_0")->text(), QString(QChar(0x00F7)));
+        QCOMPARE(button("Operator_2")->text(), QStringLiteral("X"));
+        QCOMPARE(button("Command1_1")->text(), QString(QChar(0x221A)));
+        QCOMPARE(button("Command1_2")->text(), QStringLiteral("&Help"));
+        QCOMPARE(button("Number_10")->text(), QStringLiteral("+/-"));
+        QCOMPARE(button("Cancel")->text(), QStringLiteral("CE/C"));
+        QVERIFY(calculator->Label1->text().isEmpty());
+    }
+
+    void typedKeysWorkWhereverTheFocusStands() {
+        button("Command1_3")->setFocus();
+        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("2+3"));
+        // A digit leaves the focus on "=", so Enter means "=" after a number.
+        QCOMPARE(QApplication::focusWidget(), button("Operator_4"));
+        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("x4"));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QCOMPARE(calculator->Readout->text(), QStringLiteral("20"));
+        button("Number_7")->setFocus();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QCOMPARE(calculator->Readout->text(), QStringLiteral("7."));
+    }
+
+    void controlKeysAndF9() {
+        QTest::keyClicks(button("Number_5"), QStringLiteral("9"));
+        QTest::keyClick(button("Number_5"), Qt::Key_F9);
+        QCOMPARE(calculator->Readout->text(), QStringLiteral("-9."));
+        QCOMPARE(QApplication::focusWidget(), button("Number_10"));
+        QTest::keyClick(button("Number_10"), Qt::Key_M, Qt::ControlModifier);
+        QCOMPARE(calculator->Label1->text(), QStringLiteral("Mem:  9"));
+        QTest::keyClick(button("Number_10"), Qt::Key_Escape);
+        QTest::keyClick(button("Number_10"), Qt::Key_R, Qt::ControlModifier);
+        QCOMPARE(calculator->Readout->text(), QStringLiteral("9"));
+        QTest::keyClick(button("Number_10"), Qt::Key_C, Qt::ControlModifier);
+        QVERIFY(!calculator->isVisible());
+    }
+
+    void messagesGoThroughTheDialogs() {
+        QTest::keyClicks(button("Number_1"), QStringLiteral("7/0="));
+        QTest::keyClicks(button("Number_1"), QStringLiteral("4"));
+        QTest::keyClick(button("Number_1"), Qt::Key_F9);
+        QTest::keyClicks(button("Number_1"), QStringLiteral("@"));
+        const auto& shown = doubles->dialogs.messages();
+        QCOMPARE(shown.size(), size_t{2});
+        QCOMPARE(shown[0].text, QStringLiteral("Can't divide by zero"));
+        QCOMPARE(shown[0].title, QStringLiteral("Calculator"));
+        QCOMPARE(shown[1].text, QStringLiteral("Change sign to +."));
+        QCOMPARE(calculator->Readout->text(), QStringLiteral("-4."));
+        QTest::keyClicks(button("Number_1"), QString(400, QLatin1Char('9')) + QStringLiteral("x="));
+        QCOMPARE(shown.back().text, QStringLiteral("Sorry, Overflow!"));
+        QCOMPARE(shown.back().title, QStringLiteral("ERROR"));
+        QCOMPARE(shown.back().icon, MessageIcon::Exclamation);
+        QCOMPARE(calculator->Readout->text(), QStringLiteral("0."));
+    }
+
+    void helpOpensTopicFifteenAfresh() {
+        QTest::keyClicks(button("Number_1"), QStringLiteral("5"));
+        QTest::keyClick(button("Number_1"), Qt::Key_Escape);
+        button("Command1_2")->click();
+        QCOMPARE(state.HelpTopic, 15);
+        const std::vector<ScreenCall> expected = {{ScreenCallKind::Unload, ScreenName::Help},
+                                                  {ScreenCallKind::Show, ScreenName::Help}};
+        QCOMPARE(screens.calls(), expected);
+        QCOMPARE(calculator->machine().clearPresses(), 0);
+    }
+};
+
+} // namespace tessera
+
+QTEST_MAIN(tessera::CalculatorTest)
+#include "calculator_test.moc"
