@@ -46,6 +46,7 @@ protected:
 private:
     // quiz_summ_layout.cpp
     void buildControls();
+    QWidget* m_heads = nullptr; // holds Label1, placed over the columns
     QGroupBox* makeOptions(const char* caption, const char* array, const QStringList& captions,
                            QRadioButton** options);
     void alignHeads();

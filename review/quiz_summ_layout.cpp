@@ -13,12 +13,30 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace tessera {
 
 namespace {
 
-// The list's columns in characters, as the row texts fill them.
-constexpr std::array<int, 8> ColumnWidths = {13, 12, 8, 7, 9, 10, 8, 12};
+// Where each head's two lines stand, in characters of the list's rows: a head is placed over
+// the figures of its column, and a long word may reach over a narrow neighbour's blanks.
+struct HeadPlace {
+    int upperStart;
+    const char* upper;
+    int lowerStart;
+    const char* lower;
+};
+constexpr std::array<HeadPlace, 8> HeadPlaces = {{
+    {0, "", 0, "Test Type"},
+    {21, "Date", 20, "Taken"},
+    {26, "Percent", 26, "Correct"},
+    {34, "Questions", 35, "Asked"},
+    {45, "Wild", 42, "Guesses"},
+    {54, "Tries", 54, "Ratio"},
+    {60, "Scrambled", 62, "Order"},
+    {70, "Time Used", 72, "(h:m:s)"},
+}};
 // Label2's figures start this many characters to the right of the rows' own.
 constexpr int TotalsIndent = 15;
 
@@ -58,16 +76,18 @@ void QuizSumm::buildControls() {
         QStringLiteral("Percent Correct"), QStringLiteral("Questions Asked"),
         QStringLiteral("Wild Guesses"),    QStringLiteral("Tries Ratio"),
         QStringLiteral("Scrambled Order"), QStringLiteral("Time Used (h:m:s)")};
-    auto* headRow = new QHBoxLayout;
-    headRow->setSpacing(0);
+    m_heads = new QWidget;
     for (int i = 0; i < 8; ++i) {
-        Label1[i] = new QLabel(heads[i]);
+        Label1[i] = new QLabel(m_heads);
         Name(Label1[i], QStringLiteral("Label1_%1").arg(i), heads[i]);
-        Label1[i]->setWordWrap(true);
-        Label1[i]->setAlignment((i == 0 ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignBottom);
-        headRow->addWidget(Label1[i]);
+        Label1[i]->setFont(FixedPitchFont());
+        const HeadPlace& place = HeadPlaces[static_cast<size_t>(i)];
+        const int start = std::min(place.upperStart, place.lowerStart);
+        Label1[i]->setText(QString(place.upperStart - start, QLatin1Char(' ')) +
+                           QLatin1String(place.upper) + QLatin1Char('\n') +
+                           QString(place.lowerStart - start, QLatin1Char(' ')) +
+                           QLatin1String(place.lower));
     }
-    headRow->addStretch(1);
 
     List1 = new QListWidget;
     Name(List1, QStringLiteral("List1"), QStringLiteral("Review tests"));
@@ -134,7 +154,7 @@ void QuizSumm::buildControls() {
     below->addLayout(commands);
 
     auto* layout = new QVBoxLayout(this);
-    layout->addLayout(headRow);
+    layout->addWidget(m_heads);
     layout->addWidget(List1, 1);
     layout->addWidget(Label2);
     layout->addLayout(below);
@@ -146,11 +166,15 @@ void QuizSumm::buildControls() {
 void QuizSumm::alignHeads() {
     const QFontMetrics metrics(List1->font());
     const int column = metrics.horizontalAdvance(QLatin1Char('0'));
-    const int inset =
-        List1->frameWidth() + List1->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1;
-    for (size_t i = 0; i < Label1.size(); ++i)
-        Label1[i]->setFixedWidth(ColumnWidths[i] * column + (i == 0 ? inset : 0));
-    Label1[0]->setIndent(inset);
+    const int inset = List1->frameWidth() + 3;
+    for (size_t i = 0; i < Label1.size(); ++i) {
+        const HeadPlace& place = HeadPlaces[i];
+        Label1[i]->setFont(List1->font());
+        Label1[i]->adjustSize();
+        Label1[i]->move(inset + std::min(place.upperStart, place.lowerStart) * column, 0);
+    }
+    m_heads->setFixedHeight(Label1[0]->sizeHint().height());
+    m_heads->setMinimumWidth(inset + 80 * column);
     Label2->setIndent(inset + TotalsIndent * column);
 }
 
