@@ -1,8 +1,11 @@
 // The desk tools as a candidate finds them: the options, the calculator and the alarm clock.
 
 #include "tests/gallery/gallery.h"
+#include "tools/alarm_form.h"
 #include "tools/calculator.h"
 #include "tools/preferences.h"
+
+#include <QListWidget>
 
 namespace tessera {
 
@@ -21,6 +24,16 @@ const GalleryEntry calculator("tools_desk_calculator", [](GalleryScene& scene) -
     auto* screen = new Calculator(scene.context);
     for (const char key : std::string("185000\x10X0.06"))
         screen->CalculatorKey(static_cast<unsigned char>(key));
+    return screen;
+});
+
+// An alarm set twenty minutes ahead, the clock showing the time now.
+const GalleryEntry alarm("tools_desk_alarm_set", [](GalleryScene& scene) -> QWidget* {
+    scene.doubles.clock.setDateTime(2026, 11, 19, 14, 15, 30);
+    auto* screen = new AlarmForm(scene.context);
+    screen->List1->setCurrentRow(1);
+    screen->Command1_Click(3);
+    screen->Timer1_Timer();
     return screen;
 });
 
