@@ -75,7 +75,7 @@ void QuizSumm::List1_Click(int row) {
         Option2[i]->setEnabled(offered[i]);
     // A choice that the row does not allow cannot start a retake while it stays selected.
     const int choice = selectedChoice();
-    Command1[4]->setEnabled(choice >= 0 && offered[choice]);
+    Command1[4]->setEnabled(choice >= 0 && offered[choice] && retakePossible());
 }
 
 void QuizSumm::Option1_Click(int index) {
@@ -92,7 +92,12 @@ void QuizSumm::Option1_Click(int index) {
 
 void QuizSumm::Option2_Click(int index) {
     if (Option2[index]->isEnabled())
-        Command1[4]->setEnabled(true);
+        Command1[4]->setEnabled(retakePossible());
+}
+
+// A build without the review test screen cannot start one.
+bool QuizSumm::retakePossible() const {
+    return m_context.screens.isAvailable(ScreenName::Quiz800);
 }
 
 int QuizSumm::selectedChoice() const {

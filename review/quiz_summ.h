@@ -61,6 +61,7 @@ private:
     void printCard();
     void OfferToSave();
     int selectedChoice() const;
+    bool retakePossible() const;
 
     ScreenContext& m_context;
     std::vector<CardRow> m_rows;

@@ -10,7 +10,6 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QStyle>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -141,7 +140,6 @@ void QuizSumm::buildControls() {
     }
     commands->addStretch(1);
     Command1[3]->setEnabled(m_context.screens.isAvailable(ScreenName::Help));
-    Command1[4]->setEnabled(m_context.screens.isAvailable(ScreenName::Quiz800));
 
     auto* below = new QHBoxLayout;
     auto* notes = new QVBoxLayout;

@@ -50,10 +50,6 @@ TEST(QuizSummRows, TotalsAreWeightedByItems) {
               " Total:      75.0%     12        2      1.33             2:11:00");
 }
 
-TEST(QuizSummRows, RelatedTopicNamesTheTopic) {
-    EXPECT_EQ(RelatedTopicText(3, "Contracts"), "Related Topic 3: Contracts");
-}
-
 struct SortCase {
     CardSort sort;
     std::vector<int> keys;
@@ -80,18 +76,6 @@ INSTANTIATE_TEST_SUITE_P(FiveWays, QuizSummSort,
                                          SortCase{CardSort::PercentCorrect, {5, 2, 1, 3, 4}},
                                          SortCase{CardSort::TopicSequence, {2, 4, 1, 5, 3}},
                                          SortCase{CardSort::PercentWild, {2, 1, 4, 3, 5}}));
-
-TEST(QuizSummRows, ErasingSelectsTheRowAboveOrTheTop) {
-    std::vector<CardRow> rows = LoadCardRows({CardRecord(1, "01-01-2026", 0, 1, {0}),
-                                              CardRecord(2, "01-02-2026", 0, 1, {0}),
-                                              CardRecord(3, "01-03-2026", 0, 1, {0})});
-    EXPECT_EQ(EraseCardRow(rows, 2), 1);
-    EXPECT_EQ(Keys(rows), (std::vector<int>{1, 3}));
-    EXPECT_EQ(EraseCardRow(rows, 1), 1);
-    EXPECT_EQ(Keys(rows), (std::vector<int>{3}));
-    EXPECT_EQ(EraseCardRow(rows, 1), 0);
-    EXPECT_TRUE(KeptRecords(rows).empty());
-}
 
 struct OfferCase {
     const char* name;
@@ -123,32 +107,6 @@ INSTANTIATE_TEST_SUITE_P(
         OfferCase{"full test, none right", 0.0F, {1, 1, 1, 1}, 3, {false, false, false}},
         OfferCase{"all wild, drilled out", 0.0F, {2, 2, 2, 2}, 3, {false, false, false}},
         OfferCase{"all wild, drills left", 0.0F, {2, 2, 2, 2}, 2, {true, true, true}}));
-
-TEST(QuizSummRows, RetakeOfMissedItemsTakesThemInTheRecordsOrder) {
-    SessionState state;
-    state.TestMisses[7] = 3;
-    state.TestTally[1] = 5;
-    const CardRow row =
-        LoadCardRows({CardRecord(6, "01-01-2026", 0.5F, 1, {0, 1, 0, 2, 0, 1}, 40)})[0];
-    BuildCardRetake(state, row, RetakeChoice::MissedQuestions);
-    EXPECT_EQ(state.TestType, RetakeMissedTest);
-    EXPECT_EQ(state.TestItemCount, 3);
-    EXPECT_EQ(state.TestItems[1], 41);
-    EXPECT_EQ(state.TestItems[2], 43);
-    EXPECT_EQ(state.TestItems[3], 45);
-    EXPECT_EQ(state.CurrentTopic, 6);
-    EXPECT_EQ(state.TestPosition, 1);
-    EXPECT_EQ(state.TestFurthest, 0);
-    EXPECT_EQ(state.TestMisses[7], 0);
-    EXPECT_EQ(state.TestTally[1], 0);
-    EXPECT_EQ(state.WishesLeft[1], 1);
-    EXPECT_EQ(state.WishesLeft[3], 1);
-
-    BuildCardRetake(state, row, RetakeChoice::WildGuesses);
-    EXPECT_EQ(state.TestType, RetakeWildGuessesTest);
-    EXPECT_EQ(state.TestItemCount, 1);
-    EXPECT_EQ(state.TestItems[1], 43);
-}
 
 } // namespace
 } // namespace tessera
