@@ -3,6 +3,7 @@
 #include "core/core_screens.h"
 #include "exam/exam_screens.h"
 #include "review/review_screens.h"
+#include "tools/tool_screens.h"
 
 namespace tessera {
 
@@ -11,6 +12,7 @@ void RegisterAllScreens(ScreenRegistry& registry) {
     RegisterCoreScreens(registry);
     RegisterExamScreens(registry);
     RegisterReviewScreens(registry);
+    RegisterToolScreens(registry);
 }
 
 } // namespace tessera

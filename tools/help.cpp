@@ -1,0 +1,41 @@
+#include "tools/help.h"
+
+#include "core/session_state.h"
+#include "platform/rich_text_view.h"
+#include "platform/services.h"
+#include "tools/text_frame.h"
+
+#include <QEvent>
+#include <QVBoxLayout>
+
+namespace tessera {
+
+Help::Help(ScreenContext& context) {
+    setObjectName(QStringLiteral("Help"));
+    setWindowTitle(QStringLiteral("Help"));
+    Shape1 = new TextFrame(this);
+    RichTextBox1 = MakeReadOnlyView("RichTextBox1", QStringLiteral("Help text"));
+    auto* frameLayout = new QVBoxLayout(Shape1);
+    frameLayout->setContentsMargins(0, 0, 0, 0);
+    frameLayout->addWidget(RichTextBox1);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(Shape1);
+    Shape1->follow(RichTextBox1);
+
+    const CourseContent& content = context.state.content;
+    const int topic = context.state.HelpTopic;
+    const std::string& text =
+        topic >= 1 && topic <= HelpTextCount ? content.HelpTexts[topic] : content.HelpTexts[0];
+    m_document = RtfVersions::of(HelpDocument(content.RtfHeader, text));
+    RichTextBox1->setTextRtf(m_document.forWindow(isMaximized()));
+    resize(560, 460);
+}
+
+void Help::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    // The large version shows while the window is maximised.
+    if (event->type() == QEvent::WindowStateChange && RichTextBox1 != nullptr)
+        RichTextBox1->setTextRtf(m_document.forWindow(isMaximized()));
+}
+
+} // namespace tessera

@@ -1,0 +1,52 @@
+#include "tools/text_frame.h"
+
+#include "platform/rich_text_view.h"
+
+#include <QStyle>
+
+#include <algorithm>
+
+namespace tessera {
+namespace {
+
+constexpr int TwipsPerPixel = 15;
+constexpr int NarrowestLine = 40; // pixels
+
+} // namespace
+
+TextFrame::TextFrame(QWidget* parent) : QFrame(parent) {
+    setObjectName(QStringLiteral("Shape1"));
+    setFrameShape(QFrame::NoFrame);
+}
+
+void TextFrame::follow(RichTextView* view) {
+    m_views.push_back(view);
+    applyMargins();
+}
+
+void TextFrame::resizeEvent(QResizeEvent* event) {
+    QFrame::resizeEvent(event);
+    applyMargins();
+}
+
+void TextFrame::applyMargins() {
+    for (RichTextView* view : m_views) {
+        // The text wraps inside the view's own frame and scroll bar.
+        const int chrome = 2 * view->frameWidth() +
+                           style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, view) +
+                           2 * static_cast<int>(view->document()->documentMargin());
+        view->setRightMargin(TwipsPerPixel *
+                             std::max(contentsRect().width() - chrome, NarrowestLine));
+    }
+}
+
+RichTextView* MakeReadOnlyView(const char* objectName, const QString& accessibleName) {
+    auto* view = new RichTextView;
+    view->setObjectName(QString::fromLatin1(objectName));
+    view->setAccessibleName(accessibleName);
+    view->setReadOnly(true);
+    view->setCopyOnly(true);
+    return view;
+}
+
+} // namespace tessera
