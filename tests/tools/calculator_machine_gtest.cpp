@@ -135,22 +135,6 @@ TEST(CalculatorMachine, MemoryLineFollowsTheMemory) {
     EXPECT_EQ(machine.memoryValue(), 0);
 }
 
-TEST(CalculatorKeyTable, CodesPressTheirControls) {
-    using enum CalculatorControl;
-    for (const int code : {3, 22, 24, 26})
-        EXPECT_EQ(CalculatorKeyFor(code).control, UnloadCalculator) << code;
-    for (const int code : {'*', 'X', 'x'}) {
-        EXPECT_EQ(CalculatorKeyFor(code).control, Operator);
-        EXPECT_EQ(CalculatorKeyFor(code).index, 2);
-    }
-    EXPECT_TRUE(CalculatorKeyFor('7').focusEquals);
-    EXPECT_EQ(CalculatorKeyFor('7').index, 7);
-    EXPECT_FALSE(CalculatorKeyFor('+').focusEquals);
-    EXPECT_EQ(CalculatorKeyFor(13).index, 5);
-    EXPECT_EQ(CalculatorKeyFor('a').control, Nothing);
-    EXPECT_EQ(CalculatorKeyFor(120 - 32).index, 2); // F9's code is "x", not the sign key
-}
-
 TEST(NumericText, ReadsTheLongestPrefixAndWritesFifteenDigits) {
     EXPECT_EQ(NumericValue("12."), 12);
     EXPECT_EQ(NumericValue("-3.5x"), -3.5);
