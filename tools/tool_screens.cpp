@@ -1,11 +1,17 @@
 #include "tools/tool_screens.h"
 
+#include "tools/alarm_form.h"
+#include "tools/calculator.h"
 #include "tools/help.h"
+#include "tools/preferences.h"
 
 namespace tessera {
 
 void RegisterToolScreens(ScreenRegistry& registry) {
     registry.add<Help>(ScreenName::Help);
+    registry.add<Preferences>(ScreenName::Preferences);
+    registry.add<Calculator>(ScreenName::Calculator);
+    registry.add<AlarmForm>(ScreenName::AlarmForm);
 }
 
 } // namespace tessera
