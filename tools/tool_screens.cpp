@@ -4,6 +4,7 @@
 #include "tools/calculator.h"
 #include "tools/help.h"
 #include "tools/preferences.h"
+#include "tools/viewing.h"
 
 namespace tessera {
 
@@ -12,6 +13,7 @@ void RegisterToolScreens(ScreenRegistry& registry) {
     registry.add<Preferences>(ScreenName::Preferences);
     registry.add<Calculator>(ScreenName::Calculator);
     registry.add<AlarmForm>(ScreenName::AlarmForm);
+    registry.add<Viewing>(ScreenName::Viewing);
 }
 
 } // namespace tessera

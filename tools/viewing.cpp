@@ -1,0 +1,194 @@
+#include "tools/viewing.h"
+
+#include "core/item_text.h"
+#include "core/session_state.h"
+#include "platform/dialogs.h"
+#include "platform/print_rich_text.h"
+#include "platform/rich_text_view.h"
+#include "platform/services.h"
+#include "platform/windows1252.h"
+#include "tools/screen_openers.h"
+#include "tools/text_frame.h"
+
+#include <QAbstractButton>
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <algorithm>
+
+namespace tessera {
+namespace {
+
+constexpr int TwipsPerPixel = 15;
+constexpr int GlossaryHelpTopic = 7;
+constexpr int TextHelpTopic = 4;
+
+// Up to two accelerator marks go from a button's caption to make a window's title.
+QString WithoutAccelerators(QString caption) {
+    for (int pass = 0; pass < 2; ++pass) {
+        const qsizetype mark = caption.indexOf(QLatin1Char('&'));
+        if (mark >= 0)
+            caption.remove(mark, 1);
+    }
+    return caption;
+}
+
+} // namespace
+
+Viewing::Viewing(ScreenContext& context) : m_context(context) {
+    setObjectName(QStringLiteral("Viewing"));
+    buildControls();
+    const SessionState& state = m_context.state;
+    m_glossary = state.ViewerSection == GlossarySection;
+    QString title;
+    if (m_glossary) {
+        title = navigationCaption("Command3_0", QStringLiteral("&Glossary of Key Terms"));
+        loadGlossary();
+    } else {
+        const int section = std::clamp<int>(state.ViewerSection, 1, TextSectionCount);
+        title = navigationCaption(qPrintable(QStringLiteral("Command4_%1").arg(section - 1)),
+                                  fromWindows1252(state.catalogue.TextSectionCaptions[section]));
+        loadDiscussion();
+    }
+    setWindowTitle(WithoutAccelerators(title));
+    if (state.PrinterProblem)
+        Command1[0]->setEnabled(false);
+    Command1[1]->setEnabled(m_context.screens.isAvailable(ScreenName::NoteBook));
+    Command1[3]->setEnabled(m_context.screens.isAvailable(ScreenName::Help));
+    resize(640, m_glossary ? 640 : 520);
+}
+
+QString Viewing::navigationCaption(const char* button, const QString& otherwise) const {
+    // The title is the caption of the navigation screen's button that opened the form.
+    const QWidget* menu = m_context.screens.find(ScreenName::ButtonMenu);
+    const auto* caption =
+        menu != nullptr ? menu->findChild<QAbstractButton*>(QString::fromLatin1(button)) : nullptr;
+    return caption != nullptr ? caption->text() : otherwise;
+}
+
+void Viewing::loadDiscussion() {
+    const SessionState& state = m_context.state;
+    const int section = std::clamp<int>(state.ViewerSection, 1, TextSectionCount);
+    m_text = RtfVersions::of(
+        DiscussionDocument(state.content.RtfHeader, state.content.TextSections[section]));
+    RichTextBox1->setTextRtf(m_text.forWindow(isMaximized()));
+    Label1->setText(QStringLiteral("Please Read Carefully..."));
+    for (QWidget* glossaryOnly :
+         {static_cast<QWidget*>(List1), static_cast<QWidget*>(Frame2),
+          static_cast<QWidget*>(RichTextBox2), static_cast<QWidget*>(Command1[6])})
+        glossaryOnly->hide();
+}
+
+void Viewing::loadGlossary() {
+    Command1[0]->hide();
+    RichTextBox1->setFixedHeight(2000 / TwipsPerPixel);
+    RichTextBox2->setFixedHeight(RichTextBox2->fontMetrics().height() * 3);
+    RichTextBox2->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    // The text keeps its fixed height; the list takes what the window has to spare.
+    if (auto* rows = qobject_cast<QBoxLayout*>(layout())) {
+        rows->setStretchFactor(Shape1, 0);
+        rows->setStretch(rows->count() - 2, 1);
+    }
+    const CourseContent& content = m_context.state.content;
+    for (int p = 1; p <= GlossaryEntryCount; ++p) {
+        const std::string& entry = content.GlossaryEntries[p];
+        Terms << fromWindows1252(GlossaryTerm(entry));
+        Definitions << fromWindows1252(GlossaryDefinition(entry));
+    }
+    List1->addItems(Terms);
+    LetterStart = GlossaryLetterStarts(Terms);
+    for (int i = 0; i < LetterCount; ++i)
+        Command3[i]->setEnabled(LetterStart[i] != 0);
+    Label1->hide();
+    connect(List1, &QListWidget::currentRowChanged, this, [this](int row) {
+        if (row >= 0) {
+            showEntry(row + 1);
+            List1->scrollToItem(List1->item(row), QAbstractItemView::PositionAtCenter);
+        }
+    });
+    List1->setCurrentRow(0);
+}
+
+void Viewing::showEntry(int position) {
+    const CourseContent& content = m_context.state.content;
+    const std::string& entry = content.GlossaryEntries[position];
+    m_text =
+        RtfVersions::of(GlossaryDefinitionDocument(content.RtfHeader, GlossaryDefinition(entry)));
+    m_term = RtfVersions::of(GlossaryTermDocument(content.RtfHeader, GlossaryTerm(entry)));
+    showDocuments();
+}
+
+void Viewing::showDocuments() {
+    RichTextBox1->setTextRtf(m_text.forWindow(isMaximized()));
+    if (m_glossary)
+        RichTextBox2->setTextRtf(m_term.forWindow(isMaximized()));
+}
+
+void Viewing::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    // The large versions show while the window is maximised.
+    if (event->type() == QEvent::WindowStateChange && RichTextBox1 != nullptr)
+        showDocuments();
+}
+
+bool Viewing::eventFilter(QObject* watched, QEvent* event) {
+    // A letter key on a letter button jumps as that letter's button would.
+    if (event->type() == QEvent::KeyPress && m_glossary) {
+        const QString text = static_cast<QKeyEvent*>(event)->text();
+        const bool onLetterButton =
+            std::find(Command3.begin(), Command3.end(), watched) != Command3.end();
+        if (onLetterButton && text.size() == 1 && text.at(0).unicode() < 128 &&
+            text.at(0).isLetter()) {
+            const int letter = text.at(0).toUpper().unicode() - 'A';
+            if (Command3[letter]->isEnabled())
+                Command3_Click(letter);
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void Viewing::Command3_Click(int index) {
+    const int selected = List1->currentRow() + 1;
+    const int position =
+        LetterJump(LetterStart, index, LastLetter, selected, static_cast<int>(Terms.size()));
+    LastLetter = index;
+    if (position >= 1)
+        List1->setCurrentRow(position - 1);
+    Command3[index]->setFocus(Qt::OtherFocusReason);
+}
+
+void Viewing::Command1_Click(int index) {
+    ScreenHost& screens = m_context.screens;
+    switch (index) {
+    case 0:
+        PrintRichText(*RichTextBox1, m_context.services.printer);
+        break;
+    case 1:
+        ShowNormal(screens, ScreenName::NoteBook);
+        break;
+    case 2:
+        close();
+        break;
+    case 3:
+        OpenHelpComparing(screens, m_context.state, m_glossary ? GlossaryHelpTopic : TextHelpTopic);
+        break;
+    case 4:
+        FindNext();
+        break;
+    case 5:
+        closeFindPanel();
+        break;
+    default:
+        openFindPanel();
+        break;
+    }
+}
+
+} // namespace tessera
