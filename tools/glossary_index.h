@@ -34,9 +34,4 @@ struct GlossarySearch {
 int GlossaryFindNext(const QStringList& terms, const QStringList& definitions,
                      const GlossarySearch& search, int selected, int& lastFound);
 
-// The notebook's Find Next over its plain text: the search begins one character behind
-// lastFound and wraps round once to the first character. Returns the new lastFound, the
-// 1-based position of the hit, or 0 when the text occurs nowhere.
-int NoteBookFindNext(const QString& text, const QString& what, bool matchCase, int lastFound);
-
 } // namespace tessera

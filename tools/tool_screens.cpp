@@ -3,6 +3,7 @@
 #include "tools/alarm_form.h"
 #include "tools/calculator.h"
 #include "tools/help.h"
+#include "tools/note_book.h"
 #include "tools/preferences.h"
 #include "tools/viewing.h"
 
@@ -14,6 +15,7 @@ void RegisterToolScreens(ScreenRegistry& registry) {
     registry.add<Calculator>(ScreenName::Calculator);
     registry.add<AlarmForm>(ScreenName::AlarmForm);
     registry.add<Viewing>(ScreenName::Viewing);
+    registry.add<NoteBook>(ScreenName::NoteBook);
 }
 
 } // namespace tessera

@@ -2,11 +2,13 @@
 // letters and with the find panel open, a help text, and the notebook.
 
 #include "core/content_file.h"
+#include "core/new_notebook.h"
 #include "course/compiler/content_writer.h"
 #include "course/compiler/course_source.h"
 #include "tests/gallery/gallery.h"
 #include "tests/support/full_course_generator.h"
 #include "tools/help.h"
+#include "tools/note_book.h"
 #include "tools/viewing.h"
 
 #include <QLineEdit>
@@ -65,6 +67,22 @@ const GalleryEntry help("tools_help_notebook_topic", [](GalleryScene& scene) -> 
     LoadCourse(scene.state);
     scene.state.HelpTopic = 8;
     return new Help(scene.context);
+});
+
+const GalleryEntry notebook("tools_notebook", [](GalleryScene& scene) -> QWidget* {
+    scene.folder.write(scene.state.catalogue.NoteBookFileName,
+                       NewNoteBookText(scene.state.catalogue, "Dana Whitfield"));
+    return new NoteBook(scene.context);
+});
+
+const GalleryEntry notebookFind("tools_notebook_find", [](GalleryScene& scene) -> QWidget* {
+    scene.folder.write(scene.state.catalogue.NoteBookFileName,
+                       NewNoteBookText(scene.state.catalogue, "Dana Whitfield"));
+    auto* notebook = new NoteBook(scene.context);
+    notebook->Command1[0]->click();
+    notebook->Text1->setText(QStringLiteral("Valuation"));
+    notebook->Command2[0]->click();
+    return notebook;
 });
 
 } // namespace

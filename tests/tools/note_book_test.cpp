@@ -1,0 +1,148 @@
+// The notebook as a candidate keeps it: typed notes saved on closing and read back, the
+// question only when something changed, the cursor kept between openings, and the find.
+
+#include "platform/rich_text_view.h"
+#include "tests/support/recording_screens.h"
+#include "tests/support/test_services.h"
+#include "tools/note_book.h"
+
+#include <QCheckBox>
+#include <QFile>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QtTest>
+
+#include <memory>
+
+namespace tessera {
+
+class NoteBookTest : public QObject {
+    Q_OBJECT
+
+private:
+    TestServices doubles;
+    SessionState state;
+    RecordingScreenHost screens;
+    ScreenContext context{state, doubles.services, screens};
+
+    void writeNoteBook(const char* body) {
+        QFile file(QStringLiteral("TesseraNoteBook.RTF"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\\f0\\fs24 ");
+        file.write(body);
+        file.write("\\par }");
+    }
+    std::unique_ptr<NoteBook> open() {
+        auto notebook = std::make_unique<NoteBook>(context);
+        notebook->show();
+        return notebook;
+    }
+    static void typeAtEnd(NoteBook& notebook, const QString& words) {
+        notebook.RichTextBox1->moveCursor(QTextCursor::End);
+        QTest::keyClicks(notebook.RichTextBox1, words);
+    }
+
+private Q_SLOTS:
+    void init() {
+        state = SessionState{};
+        FillCatalogue(state);
+        writeNoteBook("Contracts: offer and acceptance.");
+        doubles.dialogs = ScriptedDialogs{};
+    }
+
+    void changesAreSavedOnYesAndReadBack() {
+        auto notebook = open();
+        QCOMPARE(notebook->windowTitle(), QStringLiteral("Your Notebook"));
+        QVERIFY(!state.NoteBookChanged);
+        typeAtEnd(*notebook, QStringLiteral(" Consideration too."));
+        QVERIFY(state.NoteBookChanged);
+
+        doubles.dialogs.answer(MessageAnswer::Yes);
+        notebook->close();
+        QCOMPARE(doubles.dialogs.messages().size(), size_t{1});
+        const ShownMessage& asked = doubles.dialogs.messages().front();
+        QCOMPARE(asked.text, QStringLiteral("Save your changes to disk?"));
+        QCOMPARE(asked.title, QStringLiteral("Change Detected!"));
+        QCOMPARE(asked.buttons, MessageButtons::YesNo);
+        QVERIFY(!state.NoteBookChanged);
+
+        notebook = open();
+        const QString reread = notebook->RichTextBox1->text();
+        QVERIFY(reread.startsWith(QStringLiteral("Contracts: offer and acceptance.")));
+        QVERIFY(reread.contains(QStringLiteral(" Consideration too.")));
+        notebook->close(); // nothing changed: no question
+        QCOMPARE(doubles.dialogs.messages().size(), size_t{1});
+    }
+
+    void answeringNoKeepsTheFileAndClearsTheFlag() {
+        auto notebook = open();
+        typeAtEnd(*notebook, QStringLiteral(" Scratch."));
+        doubles.dialogs.answer(MessageAnswer::No);
+        notebook->close();
+        QVERIFY(!state.NoteBookChanged); // the end of the program won't ask again
+        notebook = open();
+        QVERIFY(!notebook->RichTextBox1->text().contains(QStringLiteral("Scratch")));
+    }
+
+    void theEndOfTheProgramSavesThroughTheSameView() {
+        auto notebook = open();
+        typeAtEnd(*notebook, QStringLiteral(" Kept at the end."));
+        auto* saves = dynamic_cast<SavesNoteBook*>(static_cast<QWidget*>(notebook.get()));
+        QVERIFY(saves != nullptr);
+        saves->SaveNoteBook();
+        RichTextView reread;
+        QVERIFY(reread.loadFile(QStringLiteral("TesseraNoteBook.RTF")));
+        QVERIFY(reread.text().contains(QStringLiteral("Kept at the end.")));
+    }
+
+    void reopeningRestoresTheCursor() {
+        auto notebook = open();
+        notebook->RichTextBox1->setSelStart(10);
+        notebook->close();
+        notebook = open();
+        QCOMPARE(notebook->RichTextBox1->selStart(), 10);
+    }
+
+    void findWrapsRoundOnceAndSaysSorryOnce() {
+        writeNoteBook("Lease, then a lease option, then LEASE again.");
+        auto notebook = open();
+        QTest::mouseClick(notebook->Command1[0], Qt::LeftButton);
+        QVERIFY(notebook->Frame1->isVisible());
+        QVERIFY(!notebook->Command1[2]->isEnabled());
+        QVERIFY(!notebook->Command2[0]->isEnabled());
+        QTest::keyClicks(notebook->Text1, QStringLiteral("lease"));
+        QVERIFY(notebook->Command2[0]->isEnabled());
+
+        QList<int> hits;
+        for (int i = 0; i < 4; ++i) {
+            QTest::mouseClick(notebook->Command2[0], Qt::LeftButton);
+            hits << notebook->RichTextBox1->selStart();
+            QCOMPARE(notebook->RichTextBox1->selText().toLower(), QStringLiteral("lease"));
+        }
+        QCOMPARE(hits, (QList<int>{0, 14, 33, 0})); // the fourth wraps round to the start
+
+        notebook->Check1->setChecked(true); // the capitals only, from behind the first hit
+        notebook->Text1->setText(QStringLiteral("LEASE"));
+        QTest::mouseClick(notebook->Command2[0], Qt::LeftButton);
+        QCOMPARE(notebook->RichTextBox1->selStart(), 33);
+        QVERIFY(doubles.dialogs.messages().empty());
+
+        notebook->Text1->setText(QStringLiteral("easement"));
+        QTest::mouseClick(notebook->Command2[0], Qt::LeftButton);
+        QCOMPARE(doubles.dialogs.messages().size(), size_t{1});
+        QCOMPARE(doubles.dialogs.messages().front().text, QStringLiteral("easement not found."));
+        QCOMPARE(doubles.dialogs.messages().front().title, QStringLiteral("Sorry!"));
+        QCOMPARE(notebook->focusWidget(), notebook->Text1);
+
+        QTest::mouseClick(notebook->Command2[1], Qt::LeftButton);
+        QVERIFY(!notebook->Frame1->isVisible());
+        QVERIFY(notebook->Command1[2]->isEnabled());
+        QVERIFY(!state.NoteBookChanged); // searching changes nothing
+    }
+};
+
+} // namespace tessera
+
+QTEST_MAIN(tessera::NoteBookTest)
+#include "note_book_test.moc"

@@ -1,0 +1,188 @@
+#include "tools/note_book.h"
+
+#include "core/session_state.h"
+#include "platform/dialogs.h"
+#include "platform/print_rich_text.h"
+#include "platform/rich_text_view.h"
+#include "platform/services.h"
+#include "tools/notebook_search.h"
+#include "tools/screen_openers.h"
+
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QStyle>
+#include <QVBoxLayout>
+#include <algorithm>
+
+namespace tessera {
+namespace {
+
+constexpr int NoteBookHelpTopic = 8;
+constexpr int TwipsPerPixel = 15;
+
+// Where the cursor stood when the notebook was last closed, kept for the whole run.
+int CursorPosition = 0;
+
+void Name(QWidget* control, const QString& objectName, const QString& accessibleName) {
+    control->setObjectName(objectName);
+    control->setAccessibleName(accessibleName);
+}
+
+QString FileName(const SessionState& state) {
+    return QString::fromStdString(state.catalogue.NoteBookFileName);
+}
+
+} // namespace
+
+NoteBook::NoteBook(ScreenContext& context) : m_context(context) {
+    setObjectName(QStringLiteral("NoteBook"));
+    setWindowTitle(QStringLiteral("Your Notebook"));
+    buildControls();
+    SessionState& state = m_context.state;
+    // A missing notebook leaves an empty page to write on.
+    RichTextBox1->loadFile(FileName(state));
+    if (state.PrinterProblem)
+        Command1[1]->setEnabled(false);
+    RichTextBox1->setSelStart(CursorPosition);
+    state.NoteBookChanged = false;
+    resize(620, 480);
+}
+
+void NoteBook::buildControls() {
+    RichTextBox1 = new RichTextView;
+    Name(RichTextBox1, QStringLiteral("RichTextBox1"), QStringLiteral("Your notes"));
+    RichTextBox1->installEventFilter(this);
+
+    const std::array<const char*, 4> captions = {"&Find", "&Print", "&Done", "&Help"};
+    auto* commands = new QHBoxLayout;
+    for (int i = 0; i < 4; ++i) {
+        Command1[i] = new QPushButton(QString::fromLatin1(captions[i]));
+        Name(Command1[i], QStringLiteral("Command1_%1").arg(i),
+             Command1[i]->text().remove(QLatin1Char('&')));
+        Command1[i]->setAutoDefault(false);
+        connect(Command1[i], &QPushButton::clicked, this, [this, i] { Command1_Click(i); });
+        commands->addWidget(Command1[i]);
+        if (i == 1)
+            commands->addStretch(1);
+    }
+    Command1[3]->setEnabled(m_context.screens.isAvailable(ScreenName::Help));
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(RichTextBox1, 1);
+    layout->addWidget(buildFindPanel());
+    layout->addLayout(commands);
+}
+
+QGroupBox* NoteBook::buildFindPanel() {
+    Frame1 = new QGroupBox(QStringLiteral("Find What?"));
+    Name(Frame1, QStringLiteral("Frame1"), QStringLiteral("Find What?"));
+    Text1 = new QLineEdit;
+    Name(Text1, QStringLiteral("Text1_1"), QStringLiteral("Find what"));
+    Check1 = new QCheckBox(QStringLiteral("&Match Case"));
+    Name(Check1, QStringLiteral("Check1"), QStringLiteral("Match Case"));
+    auto* row = new QHBoxLayout(Frame1);
+    row->addWidget(Text1, 1);
+    row->addWidget(Check1);
+    const std::array<const char*, 2> captions = {"&Find Next", "&Cancel"};
+    for (int i = 0; i < 2; ++i) {
+        Command2[i] = new QPushButton(QString::fromLatin1(captions[i]));
+        Name(Command2[i], QStringLiteral("Command2_%1").arg(i),
+             Command2[i]->text().remove(QLatin1Char('&')));
+        Command2[i]->setAutoDefault(false);
+        row->addWidget(Command2[i]);
+    }
+    connect(Command2[0], &QPushButton::clicked, this, [this] { FindNext(); });
+    connect(Command2[1], &QPushButton::clicked, this, [this] { closeFindPanel(); });
+    connect(Text1, &QLineEdit::textChanged, this,
+            [this](const QString& text) { Command2[0]->setEnabled(!text.isEmpty()); });
+    Frame1->hide();
+    return Frame1;
+}
+
+void NoteBook::SaveNoteBook() {
+    RichTextBox1->saveFile(FileName(m_context.state));
+}
+
+void NoteBook::Command1_Click(int index) {
+    switch (index) {
+    case 0:
+        Frame1->show();
+        for (int i = 0; i <= 2; ++i)
+            Command1[i]->setEnabled(false);
+        Command2[0]->setEnabled(!Text1->text().isEmpty());
+        Text1->setFocus(Qt::OtherFocusReason);
+        Text1->selectAll();
+        break;
+    case 1:
+        PrintRichText(*RichTextBox1, m_context.services.printer);
+        break;
+    case 2:
+        close();
+        break;
+    default:
+        OpenHelpAfresh(m_context.screens, m_context.state, NoteBookHelpTopic);
+        break;
+    }
+}
+
+void NoteBook::closeFindPanel() {
+    Frame1->hide();
+    Command1[0]->setEnabled(true);
+    Command1[1]->setEnabled(!m_context.state.PrinterProblem);
+    Command1[2]->setEnabled(true);
+}
+
+void NoteBook::FindNext() {
+    const QString what = Text1->text();
+    LastFound = NoteBookFindNext(RichTextBox1->text(), what, Check1->isChecked(), LastFound);
+    if (LastFound != 0) {
+        RichTextBox1->setSelStart(LastFound - 1);
+        RichTextBox1->setSelLength(static_cast<int>(what.size()));
+        RichTextBox1->setFocus(Qt::OtherFocusReason);
+        return;
+    }
+    m_context.services.dialogs.message(what + QStringLiteral(" not found."),
+                                       QStringLiteral("Sorry!"), MessageIcon::Question,
+                                       MessageButtons::Ok);
+    Text1->setFocus(Qt::OtherFocusReason);
+}
+
+bool NoteBook::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == RichTextBox1) {
+        if (event->type() == QEvent::KeyPress) {
+            // A key that types, deletes or breaks a line changes the notebook.
+            const auto* key = static_cast<QKeyEvent*>(event);
+            if (!key->text().isEmpty() || key->key() == Qt::Key_Delete)
+                m_context.state.NoteBookChanged = true;
+        } else if (event->type() == QEvent::Resize) {
+            // The lines end at 0.95 of the window's width, never past the view's own edge.
+            const int inside = RichTextBox1->width() - 2 * RichTextBox1->frameWidth() -
+                               style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+            const int pixels = std::min(static_cast<int>(0.95 * width()), inside);
+            RichTextBox1->setRightMargin(std::max(pixels, 1) * TwipsPerPixel);
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void NoteBook::closeEvent(QCloseEvent* event) {
+    SessionState& state = m_context.state;
+    if (state.NoteBookChanged) {
+        const MessageAnswer answer = m_context.services.dialogs.message(
+            QStringLiteral("Save your changes to disk?"), QStringLiteral("Change Detected!"),
+            MessageIcon::None, MessageButtons::YesNo);
+        if (answer == MessageAnswer::Yes)
+            SaveNoteBook();
+    }
+    state.NoteBookChanged = false;
+    CursorPosition = RichTextBox1->selStart();
+    setWindowState(Qt::WindowNoState);
+    event->accept();
+}
+
+} // namespace tessera
