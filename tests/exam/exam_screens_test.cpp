@@ -136,19 +136,6 @@ private Q_SLOTS:
         QCOMPARE(state.ExamPosition, int16_t(0));
     }
 
-    void nothingCommittedThenFinishedLeavesNothing() {
-        state.ExamKind = state.ExamType = 2;
-        state.ExamItemCount = 5;
-        ExamTest exam(context);
-        click(&exam, "Command1_0");
-        QCOMPARE(control<QPushButton>(&exam, "Command1_7")->text(), QStringLiteral("&Cancel"));
-        dialogs.answer(MessageAnswer::Ok);
-        click(&exam, "Command1_8");
-        QVERIFY(!shown(ScreenName::Results));
-        QVERIFY(!QFile::exists(QStringLiteral("TesseraConfig.MS")));
-        QCOMPARE(state.ExamPosition, int16_t(0));
-    }
-
     void structuredExamEndsAtTheLastConfirmAndTimeRunsOut() {
         state.ExamKind = state.ExamType = 1;
         state.ExamScrambled = false;
