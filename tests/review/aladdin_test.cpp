@@ -38,13 +38,6 @@ private Q_SLOTS:
         QCOMPARE(dialog.Option1[2]->text(), QStringLiteral("Show Expert Advise"));
     }
 
-    void offersNoCoinTossWithTwoAnswersLeft() {
-        Aladdin dialog(state, screens, 2, nullptr);
-        QVERIFY(!dialog.Option1[0]->isEnabled());
-        Aladdin three(state, screens, 3, nullptr);
-        QVERIFY(three.Option1[0]->isEnabled());
-    }
-
     void okSpendsTheSelectedWishOnly() {
         Aladdin dialog(state, screens, 4, nullptr);
         QTest::mouseClick(dialog.Option1[2], Qt::LeftButton);

@@ -228,6 +228,8 @@ private Q_SLOTS:
         QVERIFY(!menu.isEnabled());
         quiz->answerRight();
         quiz->click(7);
+        QCOMPARE(f->state.TestPosition, 1); // kept at its one answered item
+        QCOMPARE(f->state.TestFurthest, 1);
         QVERIFY(menu.isEnabled());
         auto* resume = menu.findChild<QRadioButton*>(QStringLiteral("Option1_0"));
         QCOMPARE(resume->text(), QStringLiteral("Resume Topic 3 &Review, All Items"));
