@@ -96,11 +96,4 @@ TEST_F(NavigationTest, OnlyTheSuspendedKindLocksItsCard) {
     EXPECT_EQ(view.reviewOption.caption, "Topic &Review Test");
 }
 
-TEST(DisplaySize, ExactlyEightHundredBySixHundredPasses) {
-    EXPECT_TRUE(DisplayLargeEnough(800, 600));
-    EXPECT_TRUE(DisplayLargeEnough(1920, 1080));
-    EXPECT_FALSE(DisplayLargeEnough(799, 600));
-    EXPECT_FALSE(DisplayLargeEnough(800, 599));
-}
-
 } // namespace
