@@ -40,7 +40,6 @@ public:
     // Boxes shown after the script ran out. An unscripted box gets the answer that leaves
     // a question (Cancel, or Yes to a Yes/No question, and an empty input) so nothing loops.
     int unscripted() const { return m_unscripted; }
-    bool scriptUsedUp() const { return m_answers.empty() && m_typed.empty(); }
 
 private:
     std::deque<MessageAnswer> m_answers;
