@@ -15,7 +15,6 @@ private Q_SLOTS:
     void plainTextPositionsMatchTheSelection();
     void readOnlyViewPassesOnlyTheCopyKey();
     void saveThenLoadBringsTheDocumentBack();
-    void emptySelectionGivesThePrologueOfANewNotebook();
     void printsTheSelectionOrTheWholeText();
     void rightMarginSetsTheWrapWidth();
 };
@@ -79,19 +78,6 @@ void TestRichTextView::saveThenLoadBringsTheDocumentBack() {
     QCOMPARE(reopened.text(), notebook.text());
     QCOMPARE(reopened.textRtf(), notebook.textRtf());
     QVERIFY(!reopened.loadFile(QStringLiteral("missing.rtf")));
-}
-
-void TestRichTextView::emptySelectionGivesThePrologueOfANewNotebook() {
-    RichTextView title;
-    QTextCharFormat format;
-    format.setFontFamilies(QStringList{QStringLiteral("Arial")});
-    format.setFontPointSize(11.5);
-    format.setFontWeight(QFont::Bold);
-    title.setCurrentCharFormat(format);
-    const std::string rtf = title.selRtf();
-    QCOMPARE(rtf.substr(0, rtf.size() - 5),
-             std::string("{\\rtf1\\ansi\\deff0\\deflang1033{\\fonttbl{\\f0\\fswiss Arial;}}\r\n"
-                         "\\viewkind4\\uc1\\pard\\b\\f0\\fs23 "));
 }
 
 void TestRichTextView::printsTheSelectionOrTheWholeText() {
