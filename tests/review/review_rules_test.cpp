@@ -110,8 +110,9 @@ TEST_P(GradeRules, MessageFollowsTheGradeAndTheDrillTheLowerOfSeventyAndGrade) {
 INSTANTIATE_TEST_SUITE_P(
     Drills, GradeRules,
     // 0.75 at 85 and 0.69 at 70 are driven through the screen in quiz800_session_test.
-    ::testing::Values(GradeCase{0.65F, 60, true, true}, GradeCase{7.0F / 10.0F, 70, true, true},
-                      GradeCase{0.0F, 0, true, true}, GradeCase{1.0F, 100, true, true}));
+    ::testing::Values(GradeCase{0.59F, 60, false, false}, GradeCase{0.65F, 60, true, true},
+                      GradeCase{7.0F / 10.0F, 70, true, true}, GradeCase{0.0F, 0, true, true},
+                      GradeCase{1.0F, 100, true, true}));
 
 TEST(EndOfTest, OnlyAnAllItemsTestBelowThreeDrillsIsLogged) {
     EXPECT_TRUE(LogsDrill(AllItemsTest, 2));
