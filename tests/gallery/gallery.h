@@ -30,6 +30,10 @@ namespace tessera {
 struct GalleryScene {
     GalleryScene();
 
+    // The default course compiled from its source and cut as start-up would; the made-up
+    // full-size course where the source does not compile.
+    void loadDefaultCourse();
+
     StudyFolder folder;
     TestServices doubles;
     SessionState state;

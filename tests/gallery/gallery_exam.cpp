@@ -2,38 +2,20 @@
 // author-prepared and a custom exam, the exam in both approaches with items answered, unsure
 // and remaining, the two-minute warning, time expired, and the results.
 
-#include "core/content_file.h"
-#include "course/compiler/content_writer.h"
-#include "course/compiler/course_source.h"
 #include "exam/exam_items.h"
 #include "exam/exam_set.h"
 #include "exam/exam_test.h"
 #include "exam/results.h"
 #include "tests/gallery/gallery.h"
-#include "tests/support/full_course_generator.h"
 
 #include <QListWidget>
 #include <QPushButton>
 
 #include <algorithm>
-#include <filesystem>
 
 namespace tessera {
 
 namespace {
-
-// The default course, compiled from its source as the program would read it; the made-up
-// full-size course where the source does not compile.
-void LoadCourse(SessionState& state) {
-    std::vector<course::SourceError> errors;
-    const course::Course source =
-        course::ReadCourse(std::filesystem::path(TESSERA_SOURCE_ROOT) / "course", errors);
-    std::string file = errors.empty() ? course::WriteContent(source, errors) : std::string();
-    if (!errors.empty() || file.size() < 2) {
-        file = FullCourseContent();
-    }
-    CutContent(std::string_view(file.data(), file.size() - 1), state.catalogue, state.content);
-}
 
 void Press(QWidget* screen, int index) {
     screen->findChild<QPushButton*>(QStringLiteral("Command1_%1").arg(index))->click();
@@ -41,7 +23,7 @@ void Press(QWidget* screen, int index) {
 
 // A custom exam of 20 items from the first four topics, traditional, half an hour.
 ExamTest* CustomExam(GalleryScene& scene, int structured) {
-    LoadCourse(scene.state);
+    scene.loadDefaultCourse();
     SessionState& s = scene.state;
     s.ExamKind = s.ExamType = 3;
     s.ExamItemCount = 20;
@@ -55,14 +37,14 @@ ExamTest* CustomExam(GalleryScene& scene, int structured) {
 }
 
 const GalleryEntry authorBuilder("exam_builder_author_prepared", [](GalleryScene& scene) {
-    LoadCourse(scene.state);
+    scene.loadDefaultCourse();
     scene.state.TakeCounts[10] = 1;
     scene.state.TakeCounts[12] = 2;
     return new ExamSet(scene.context);
 });
 
 const GalleryEntry customBuilder("exam_builder_custom", [](GalleryScene& scene) {
-    LoadCourse(scene.state);
+    scene.loadDefaultCourse();
     SessionState& s = scene.state;
     s.TakeCounts[10] = 3;
     s.TakeCounts[11] = 3;
@@ -105,7 +87,7 @@ const GalleryEntry structured("exam_test_structured", [](GalleryScene& scene) ->
 
 // A suspended exam resumed with little time left: the clock reads at once on opening.
 ExamTest* Resumed(GalleryScene& scene, double minutesUsed) {
-    LoadCourse(scene.state);
+    scene.loadDefaultCourse();
     SessionState& s = scene.state;
     s.ExamKind = s.ExamType = 2;
     s.ExamItemCount = std::min<int16_t>(s.content.ItemCounts[2][2], 150);
@@ -128,7 +110,7 @@ const GalleryEntry expired("exam_test_time_expired",
                            [](GalleryScene& scene) -> QWidget* { return Resumed(scene, 195.1); });
 
 const GalleryEntry results("exam_results", [](GalleryScene& scene) -> QWidget* {
-    LoadCourse(scene.state);
+    scene.loadDefaultCourse();
     SessionState& s = scene.state;
     s.ExamKind = s.ExamType = 3;
     s.ExamItemCount = 40;

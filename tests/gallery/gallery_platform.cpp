@@ -1,11 +1,8 @@
 // A course document in its normal and large version, and the picture window, as a candidate
 // meets them on an item with a figure.
 
-#include "core/content_file.h"
 #include "core/item_text.h"
 #include "core/rich_text_documents.h"
-#include "course/compiler/content_writer.h"
-#include "course/compiler/course_source.h"
 #include "platform/picture_window.h"
 #include "platform/rich_text_view.h"
 #include "review/pict_form.h"
@@ -17,21 +14,9 @@ namespace tessera {
 
 namespace {
 
-// The default course compiled and cut as start-up would; false if the source does not compile.
-bool loadCourse(SessionState& state) {
-    std::vector<course::SourceError> errors;
-    const course::Course source = course::ReadCourse(TESSERA_SOURCE_ROOT "/course", errors);
-    const std::string file = course::WriteContent(source, errors);
-    if (!errors.empty() || file.empty())
-        return false;
-    CutContent(std::string_view(file.data(), file.size() - 1), state.catalogue, state.content);
-    return true;
-}
-
 // The item of topic 6 with the figure, question and explanation joined as after an answer.
 QWidget* itemDocument(GalleryScene& scene, bool large) {
-    if (!loadCourse(scene.state))
-        return nullptr;
+    scene.loadDefaultCourse();
     const std::string& item =
         scene.state.content.ReviewItems[RunningItemNumber(scene.state.content, 6, 8)];
     const RtfVersions versions = RtfVersions::of(QuestionWithExplanationDocument(

@@ -1,12 +1,8 @@
 // The reading screens as a candidate meets them: a discussion text, the glossary at a few
 // letters and with the find panel open, a help text, and the notebook.
 
-#include "core/content_file.h"
 #include "core/new_notebook.h"
-#include "course/compiler/content_writer.h"
-#include "course/compiler/course_source.h"
 #include "tests/gallery/gallery.h"
-#include "tests/support/full_course_generator.h"
 #include "tools/help.h"
 #include "tools/note_book.h"
 #include "tools/viewing.h"
@@ -16,25 +12,12 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-#include <filesystem>
-
 namespace tessera {
 
 namespace {
 
-// The default course as the program reads it; the made-up one where the source won't compile.
-void LoadCourse(SessionState& state) {
-    std::vector<course::SourceError> errors;
-    const course::Course source =
-        course::ReadCourse(std::filesystem::path(TESSERA_SOURCE_ROOT) / "course", errors);
-    std::string file = errors.empty() ? course::WriteContent(source, errors) : std::string();
-    if (!errors.empty() || file.size() < 2)
-        file = FullCourseContent();
-    CutContent(std::string_view(file.data(), file.size() - 1), state.catalogue, state.content);
-}
-
 Viewing* GlossaryAt(GalleryScene& scene, char letter) {
-    LoadCourse(scene.state);
+    scene.loadDefaultCourse();
     scene.state.ViewerSection = Viewing::GlossarySection;
     auto* viewing = new Viewing(scene.context);
     viewing->Command3[letter - 'A']->click();
@@ -42,7 +25,7 @@ Viewing* GlossaryAt(GalleryScene& scene, char letter) {
 }
 
 const GalleryEntry discussion("tools_viewing_discussion", [](GalleryScene& scene) -> QWidget* {
-    LoadCourse(scene.state);
+    scene.loadDefaultCourse();
     scene.state.ViewerSection = 2;
     return new Viewing(scene.context);
 });
@@ -64,7 +47,7 @@ const GalleryEntry glossaryFind("tools_viewing_glossary_find", [](GalleryScene& 
 });
 
 const GalleryEntry help("tools_help_notebook_topic", [](GalleryScene& scene) -> QWidget* {
-    LoadCourse(scene.state);
+    scene.loadDefaultCourse();
     scene.state.HelpTopic = 8;
     return new Help(scene.context);
 });
