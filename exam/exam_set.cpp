@@ -2,6 +2,7 @@
 
 #include "core/session_state.h"
 #include "exam/exam_widgets.h"
+#include "platform/control_names.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>

@@ -4,6 +4,7 @@
 #include "exam/exam_test.h"
 
 #include "exam/exam_widgets.h"
+#include "platform/control_names.h"
 #include "platform/rich_text_view.h"
 
 #include <QFrame>

@@ -25,11 +25,4 @@ void SetNavigationEnabled(ScreenHost& screens, bool enabled) {
     }
 }
 
-void NameControl(QWidget* control, const char* array, int index, const QString& accessibleName) {
-    control->setObjectName(index < 0 ? QString::fromLatin1(array)
-                                     : QString::fromLatin1(array) + QLatin1Char('_') +
-                                           QString::number(index));
-    control->setAccessibleName(accessibleName);
-}
-
 } // namespace tessera

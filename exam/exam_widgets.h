@@ -6,8 +6,6 @@
 
 #include <string>
 
-class QWidget;
-
 namespace tessera {
 
 class ScreenHost;
@@ -23,8 +21,5 @@ inline QString Text(const std::string& text) {
 // The navigation screen is disabled while an exam screen is open; on closing it is enabled
 // again and, if minimised, restored.
 void SetNavigationEnabled(ScreenHost& screens, bool enabled);
-
-// Names a control as the system does, List1(0) as "List1_0", and gives it an accessible name.
-void NameControl(QWidget* control, const char* array, int index, const QString& accessibleName);
 
 } // namespace tessera

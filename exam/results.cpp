@@ -4,6 +4,7 @@
 #include "exam/exam_format.h"
 #include "exam/exam_items.h"
 #include "exam/exam_widgets.h"
+#include "platform/control_names.h"
 #include "platform/dialogs.h"
 #include "platform/picture_window.h"
 #include "platform/rich_text_view.h"

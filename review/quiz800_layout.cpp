@@ -3,6 +3,7 @@
 
 #include "review/quiz800.h"
 
+#include "platform/control_names.h"
 #include "platform/rich_text_view.h"
 #include "review/review_gauge.h"
 
@@ -39,8 +40,7 @@ void enlarge(QWidget* widget, qreal factor, bool bold) {
 QPushButton* Quiz800::makeCommand(int index, const QString& caption,
                                   const QString& accessibleName) {
     auto* button = new QPushButton(caption, this);
-    button->setObjectName(QStringLiteral("Command1_%1").arg(index));
-    button->setAccessibleName(accessibleName);
+    NameControl(button, "Command1", index, accessibleName);
     button->installEventFilter(this);
     connect(button, &QPushButton::clicked, this, [this, index] { Command1_Click(index); });
     Command1[static_cast<size_t>(index)] = button;

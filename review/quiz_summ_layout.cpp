@@ -1,6 +1,7 @@
 // QuizSumm's controls: heads over the list, the list and its totals, the two frames of options
 // and the row of commands. The window scales them through its layouts.
 
+#include "platform/control_names.h"
 #include "review/quiz_summ.h"
 
 #include <QFontDatabase>
@@ -46,11 +47,6 @@ QFont FixedPitchFont() {
     return font;
 }
 
-void Name(QWidget* control, const QString& name, const QString& accessibleName) {
-    control->setObjectName(name);
-    control->setAccessibleName(accessibleName);
-}
-
 } // namespace
 
 QGroupBox* QuizSumm::makeOptions(const char* caption, const char* array,
@@ -59,7 +55,7 @@ QGroupBox* QuizSumm::makeOptions(const char* caption, const char* array,
     auto* layout = new QVBoxLayout(frame);
     for (int i = 0; i < captions.size(); ++i) {
         auto* option = new QRadioButton(captions[i]);
-        Name(option, QStringLiteral("%1_%2").arg(QLatin1String(array)).arg(i), captions[i]);
+        NameControl(option, array, i, captions[i]);
         layout->addWidget(option);
         options[i] = option;
     }
@@ -78,7 +74,7 @@ void QuizSumm::buildControls() {
     m_heads = new QWidget;
     for (int i = 0; i < 8; ++i) {
         Label1[i] = new QLabel(m_heads);
-        Name(Label1[i], QStringLiteral("Label1_%1").arg(i), heads[i]);
+        NameControl(Label1[i], "Label1", i, heads[i]);
         Label1[i]->setFont(FixedPitchFont());
         const HeadPlace& place = HeadPlaces[static_cast<size_t>(i)];
         const int start = std::min(place.upperStart, place.lowerStart);
@@ -89,21 +85,21 @@ void QuizSumm::buildControls() {
     }
 
     List1 = new QListWidget;
-    Name(List1, QStringLiteral("List1"), QStringLiteral("Review tests"));
+    NameControl(List1, QStringLiteral("List1"), QStringLiteral("Review tests"));
     List1->setFont(FixedPitchFont());
     List1->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     connect(List1, &QListWidget::currentRowChanged, this,
             [this](int row) { List1_Click(row + 1); });
 
     Label2 = new QLabel(QStringLiteral("Total:"));
-    Name(Label2, QStringLiteral("Label2"), QStringLiteral("Totals"));
+    NameControl(Label2, QStringLiteral("Label2"), QStringLiteral("Totals"));
     Label2->setFont(FixedPitchFont());
     Label2->setTextInteractionFlags(Qt::TextSelectableByMouse);
     Label3 = new QLabel(QStringLiteral("Topic Number:"));
-    Name(Label3, QStringLiteral("Label3"), QStringLiteral("Topic of the selected test"));
+    NameControl(Label3, QStringLiteral("Label3"), QStringLiteral("Topic of the selected test"));
     auto* label4 = new QLabel(
         QStringLiteral("Note: You may take three complete drills of any topic review test."));
-    Name(label4, QStringLiteral("Label4"), label4->text());
+    NameControl(label4, QStringLiteral("Label4"), label4->text());
     label4->setWordWrap(true);
 
     Frame1 =
@@ -112,12 +108,12 @@ void QuizSumm::buildControls() {
                      QStringLiteral("Percent &Correct"), QStringLiteral("&Topic Sequence"),
                      QStringLiteral("Percent &Wild Guesses")},
                     Option1.data());
-    Name(Frame1, QStringLiteral("Frame1"), QStringLiteral("Sort List By"));
+    NameControl(Frame1, QStringLiteral("Frame1"), QStringLiteral("Sort List By"));
     Frame2 = makeOptions("Include", "Option2",
                          {QStringLiteral("&All Questions"), QStringLiteral("&Missed Questions"),
                           QStringLiteral("Wild &Guesses")},
                          Option2.data());
-    Name(Frame2, QStringLiteral("Frame2"), QStringLiteral("Include in a retake"));
+    NameControl(Frame2, QStringLiteral("Frame2"), QStringLiteral("Include in a retake"));
     Option2[0]->setChecked(true);
     for (int i = 0; i < 5; ++i) {
         connect(Option1[i], &QRadioButton::toggled, this, [this, i](bool on) {
@@ -132,8 +128,7 @@ void QuizSumm::buildControls() {
     auto* commands = new QVBoxLayout;
     for (int i = 0; i < 5; ++i) {
         Command1[i] = new QPushButton(QString::fromLatin1(captions[i]));
-        Name(Command1[i], QStringLiteral("Command1_%1").arg(i),
-             Command1[i]->text().remove(QLatin1Char('&')));
+        NameControl(Command1[i], "Command1", i, Command1[i]->text().remove(QLatin1Char('&')));
         Command1[i]->setAutoDefault(false);
         connect(Command1[i], &QPushButton::clicked, this, [this, i] { Command1_Click(i); });
         commands->addWidget(Command1[i]);

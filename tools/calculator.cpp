@@ -1,5 +1,6 @@
 #include "tools/calculator.h"
 
+#include "platform/control_names.h"
 #include "platform/dialogs.h"
 
 #include <QEvent>
@@ -72,8 +73,7 @@ Calculator::Calculator(ScreenContext& context, QWidget* parent)
 QPushButton* Calculator::addButton(const QString& caption, const QString& name,
                                    const QString& spoken) {
     auto* button = new QPushButton(caption, this);
-    button->setObjectName(name);
-    button->setAccessibleName(spoken);
+    NameControl(button, name, spoken);
     button->setAutoDefault(false);
     button->setMinimumSize(52, 38);
     QFont key = button->font();

@@ -1,6 +1,7 @@
 #include "tools/note_book.h"
 
 #include "core/session_state.h"
+#include "platform/control_names.h"
 #include "platform/dialogs.h"
 #include "platform/print_rich_text.h"
 #include "platform/rich_text_view.h"
@@ -28,11 +29,6 @@ constexpr int TwipsPerPixel = 15;
 // Where the cursor stood when the notebook was last closed, kept for the whole run.
 int CursorPosition = 0;
 
-void Name(QWidget* control, const QString& objectName, const QString& accessibleName) {
-    control->setObjectName(objectName);
-    control->setAccessibleName(accessibleName);
-}
-
 QString FileName(const SessionState& state) {
     return QString::fromStdString(state.catalogue.NoteBookFileName);
 }
@@ -55,15 +51,14 @@ NoteBook::NoteBook(ScreenContext& context) : m_context(context) {
 
 void NoteBook::buildControls() {
     RichTextBox1 = new RichTextView;
-    Name(RichTextBox1, QStringLiteral("RichTextBox1"), QStringLiteral("Your notes"));
+    NameControl(RichTextBox1, QStringLiteral("RichTextBox1"), QStringLiteral("Your notes"));
     RichTextBox1->installEventFilter(this);
 
     const std::array<const char*, 4> captions = {"&Find", "&Print", "&Done", "&Help"};
     auto* commands = new QHBoxLayout;
     for (int i = 0; i < 4; ++i) {
         Command1[i] = new QPushButton(QString::fromLatin1(captions[i]));
-        Name(Command1[i], QStringLiteral("Command1_%1").arg(i),
-             Command1[i]->text().remove(QLatin1Char('&')));
+        NameControl(Command1[i], "Command1", i, Command1[i]->text().remove(QLatin1Char('&')));
         Command1[i]->setAutoDefault(false);
         connect(Command1[i], &QPushButton::clicked, this, [this, i] { Command1_Click(i); });
         commands->addWidget(Command1[i]);
@@ -80,19 +75,18 @@ void NoteBook::buildControls() {
 
 QGroupBox* NoteBook::buildFindPanel() {
     Frame1 = new QGroupBox(QStringLiteral("Find What?"));
-    Name(Frame1, QStringLiteral("Frame1"), QStringLiteral("Find What?"));
+    NameControl(Frame1, QStringLiteral("Frame1"), QStringLiteral("Find What?"));
     Text1 = new QLineEdit;
-    Name(Text1, QStringLiteral("Text1_1"), QStringLiteral("Find what"));
+    NameControl(Text1, QStringLiteral("Text1_1"), QStringLiteral("Find what"));
     Check1 = new QCheckBox(QStringLiteral("&Match Case"));
-    Name(Check1, QStringLiteral("Check1"), QStringLiteral("Match Case"));
+    NameControl(Check1, QStringLiteral("Check1"), QStringLiteral("Match Case"));
     auto* row = new QHBoxLayout(Frame1);
     row->addWidget(Text1, 1);
     row->addWidget(Check1);
     const std::array<const char*, 2> captions = {"&Find Next", "&Cancel"};
     for (int i = 0; i < 2; ++i) {
         Command2[i] = new QPushButton(QString::fromLatin1(captions[i]));
-        Name(Command2[i], QStringLiteral("Command2_%1").arg(i),
-             Command2[i]->text().remove(QLatin1Char('&')));
+        NameControl(Command2[i], "Command2", i, Command2[i]->text().remove(QLatin1Char('&')));
         Command2[i]->setAutoDefault(false);
         row->addWidget(Command2[i]);
     }

@@ -1,5 +1,6 @@
 #include "tools/text_frame.h"
 
+#include "platform/control_names.h"
 #include "platform/rich_text_view.h"
 
 #include <QStyle>
@@ -42,8 +43,7 @@ void TextFrame::applyMargins() {
 
 RichTextView* MakeReadOnlyView(const char* objectName, const QString& accessibleName) {
     auto* view = new RichTextView;
-    view->setObjectName(QString::fromLatin1(objectName));
-    view->setAccessibleName(accessibleName);
+    NameControl(view, objectName, -1, accessibleName);
     view->setReadOnly(true);
     view->setCopyOnly(true);
     return view;

@@ -1,3 +1,4 @@
+#include "platform/control_names.h"
 #include "platform/rich_text_view.h"
 #include "tools/text_frame.h"
 #include "tools/viewing.h"
@@ -16,20 +17,13 @@
 namespace tessera {
 namespace {
 
-void Name(QWidget* control, const char* array, int index, const QString& accessibleName) {
-    control->setObjectName(index < 0
-                               ? QString::fromLatin1(array)
-                               : QStringLiteral("%1_%2").arg(QLatin1String(array)).arg(index));
-    control->setAccessibleName(accessibleName);
-}
-
 constexpr int TwipsPerPixel = 15;
 
 } // namespace
 
 void Viewing::buildControls() {
     Label1 = new QLabel;
-    Name(Label1, "Label1", -1, {});
+    NameControl(Label1, "Label1", -1, {});
     QFont heading = Label1->font();
     heading.setBold(true);
     heading.setPointSizeF(heading.pointSizeF() * 1.2);
@@ -46,14 +40,14 @@ void Viewing::buildControls() {
     Shape1->follow(RichTextBox2);
 
     List1 = new QListWidget;
-    Name(List1, "List1", -1, QStringLiteral("Terms"));
+    NameControl(List1, "List1", -1, QStringLiteral("Terms"));
     List1->setMinimumSize(6750 / TwipsPerPixel, 3700 / TwipsPerPixel);
 
     const std::array<const char*, 7> captions = {"&Print",     "N&otebook", "&Done", "&Help",
                                                  "&Find Next", "&Cancel",   "&Find"};
     for (int i = 0; i < 7; ++i) {
         Command1[i] = new QPushButton(QString::fromLatin1(captions[i]));
-        Name(Command1[i], "Command1", i, Command1[i]->text().remove(QLatin1Char('&')));
+        NameControl(Command1[i], "Command1", i, Command1[i]->text().remove(QLatin1Char('&')));
         Command1[i]->setAutoDefault(false);
         connect(Command1[i], &QPushButton::clicked, this, [this, i] { Command1_Click(i); });
     }
@@ -79,13 +73,13 @@ void Viewing::buildControls() {
 
 void Viewing::buildLetterButtons() {
     Frame2 = new QGroupBox;
-    Name(Frame2, "Frame2", -1, QStringLiteral("Jump to a letter"));
+    NameControl(Frame2, "Frame2", -1, QStringLiteral("Jump to a letter"));
     auto* grid = new QGridLayout(Frame2);
     grid->setSpacing(2);
     for (int i = 0; i < LetterCount; ++i) {
         const QChar letter(QLatin1Char(static_cast<char>('A' + i)));
         Command3[i] = new QPushButton(QString(letter));
-        Name(Command3[i], "Command3", i, QStringLiteral("Letter %1").arg(letter));
+        NameControl(Command3[i], "Command3", i, QStringLiteral("Letter %1").arg(letter));
         Command3[i]->setAutoDefault(false);
         Command3[i]->setEnabled(false);
         Command3[i]->setMinimumWidth(Command3[i]->fontMetrics().horizontalAdvance(letter) * 3);
@@ -97,11 +91,11 @@ void Viewing::buildLetterButtons() {
 
 void Viewing::buildFindPanel() {
     Frame1 = new QGroupBox(QStringLiteral("Find What?"));
-    Name(Frame1, "Frame1", -1, QStringLiteral("Find What?"));
+    NameControl(Frame1, "Frame1", -1, QStringLiteral("Find What?"));
     Text2 = new QLineEdit;
-    Name(Text2, "Text2", -1, QStringLiteral("Find what"));
+    NameControl(Text2, "Text2", -1, QStringLiteral("Find what"));
     Check1 = new QCheckBox(QStringLiteral("Match Case"));
-    Name(Check1, "Check1", -1, QStringLiteral("Match Case"));
+    NameControl(Check1, "Check1", -1, QStringLiteral("Match Case"));
     const std::array<const char*, 3> options = {"Search Terms", "Search Definitions",
                                                 "Search Both"};
     auto* panel = new QVBoxLayout;
@@ -109,7 +103,7 @@ void Viewing::buildFindPanel() {
     panel->addWidget(Check1);
     for (int i = 0; i < 3; ++i) {
         Option1[i] = new QRadioButton(QString::fromLatin1(options[i]));
-        Name(Option1[i], "Option1", i, Option1[i]->text());
+        NameControl(Option1[i], "Option1", i, Option1[i]->text());
         panel->addWidget(Option1[i]);
     }
     Option1[0]->setChecked(true);
