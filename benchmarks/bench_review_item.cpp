@@ -5,13 +5,9 @@
 #include "core/content_file.h"
 #include "platform/rich_text_view.h"
 #include "review/quiz800.h"
-#include "tests/support/fake_clock.h"
-#include "tests/support/fake_random.h"
 #include "tests/support/full_course_generator.h"
-#include "tests/support/recording_printer.h"
 #include "tests/support/recording_screens.h"
-#include "tests/support/scripted_dialogs.h"
-#include "tests/support/silent_sound.h"
+#include "tests/support/test_services.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -36,13 +32,7 @@ protected:
     }
 };
 
-struct ReviewBench {
-    ScriptedDialogs dialogs;
-    FakeClock clock;
-    FakeRandom random;
-    SilentSound sound;
-    RecordingPrinter printer;
-    Services services{dialogs, clock, random, sound, printer};
+struct ReviewBench : TestServices {
     SessionState state;
     RecordingScreenHost screens;
     ScreenContext context{state, services, screens};

@@ -6,9 +6,8 @@
 #include "exam/results.h"
 #include "exam_fixture.h"
 #include "platform/rich_text_view.h"
-#include "tests/support/recording_printer.h"
 #include "tests/support/recording_screens.h"
-#include "tests/support/silent_sound.h"
+#include "tests/support/test_services.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -19,17 +18,11 @@
 
 namespace tessera {
 
-class ExamScreensTest : public QObject {
+class ExamScreensTest : public QObject, TestServices {
     Q_OBJECT
 
 private:
     SessionState state;
-    FakeClock clock;
-    FakeRandom random;
-    ScriptedDialogs dialogs;
-    SilentSound sound;
-    RecordingPrinter printer;
-    Services services{dialogs, clock, random, sound, printer};
     RecordingScreenHost screens;
     ScreenContext context{state, services, screens};
 

@@ -1,13 +1,8 @@
 #pragma once
 // A small course for the review screens' tests, and the doubles a screen is given.
 
-#include "platform/services.h"
-#include "tests/support/fake_clock.h"
-#include "tests/support/fake_random.h"
-#include "tests/support/recording_printer.h"
 #include "tests/support/recording_screens.h"
-#include "tests/support/scripted_dialogs.h"
-#include "tests/support/silent_sound.h"
+#include "tests/support/test_services.h"
 
 #include <string>
 
@@ -25,13 +20,7 @@ std::string SmallCourseItem(int topic, int ordinal, int runningNumber);
 // Fills the catalogue and cuts nothing from disk: the course lives in memory only.
 void FillSmallCourse(SessionState& state);
 
-struct ReviewScreenFixture {
-    ScriptedDialogs dialogs;
-    FakeClock clock;
-    FakeRandom random;
-    SilentSound sound;
-    RecordingPrinter printer;
-    Services services{dialogs, clock, random, sound, printer};
+struct ReviewScreenFixture : TestServices {
     SessionState state;
     RecordingScreenHost screens;
     ScreenContext context{state, services, screens};
