@@ -17,10 +17,7 @@ class Quiz800ItemsTest : public QObject {
 private:
     std::unique_ptr<ReviewScreenFixture> f;
 
-    std::unique_ptr<Quiz800Driver> open(int topic) {
-        f->state.CurrentTopic = static_cast<int16_t>(topic);
-        return std::make_unique<Quiz800Driver>(*f);
-    }
+    std::unique_ptr<Quiz800Driver> open(int topic) { return OpenQuiz(*f, topic); }
 
 private Q_SLOTS:
     void init() {

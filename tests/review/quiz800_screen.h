@@ -77,4 +77,10 @@ private:
     std::array<bool, 3> m_offered{};
 };
 
+// Opens the review test screen on a topic, as the topic button does.
+inline std::unique_ptr<Quiz800Driver> OpenQuiz(ReviewScreenFixture& fixture, int topic) {
+    fixture.state.CurrentTopic = static_cast<int16_t>(topic);
+    return std::make_unique<Quiz800Driver>(fixture);
+}
+
 } // namespace tessera

@@ -17,10 +17,7 @@ class Quiz800SessionTest : public QObject {
 private:
     std::unique_ptr<ReviewScreenFixture> f;
 
-    std::unique_ptr<Quiz800Driver> open(int topic) {
-        f->state.CurrentTopic = static_cast<int16_t>(topic);
-        return std::make_unique<Quiz800Driver>(*f);
-    }
+    std::unique_ptr<Quiz800Driver> open(int topic) { return OpenQuiz(*f, topic); }
 
     // Answers positions up to the one given right at the first try, stopping on it revealed.
     static void answerThrough(Quiz800Driver& quiz, int last) {
