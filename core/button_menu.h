@@ -80,7 +80,8 @@ bool CheckDisplaySize(Dialogs& dialogs, int width, int height);
 class SavesNoteBook {
 public:
     virtual ~SavesNoteBook() = default;
-    virtual void SaveNoteBook() = 0;
+    // True once the notebook is on disk; false after telling the candidate that it is not.
+    virtual bool SaveNoteBook() = 0;
 };
 
 } // namespace tessera

@@ -198,8 +198,11 @@ void ButtonMenu::closeEvent(QCloseEvent* event) {
                                                QStringLiteral("Change to NoteBook Detected!"),
                                                MessageIcon::Question, MessageButtons::YesNo);
         auto* notebook = dynamic_cast<SavesNoteBook*>(m_context.screens.find(ScreenName::NoteBook));
-        if (answer == MessageAnswer::Yes && notebook != nullptr)
-            notebook->SaveNoteBook();
+        // Notes that could not be saved keep the program open.
+        if (answer == MessageAnswer::Yes && notebook != nullptr && !notebook->SaveNoteBook()) {
+            event->ignore();
+            return;
+        }
     }
     std::error_code ignored;
     std::filesystem::remove(state.catalogue.RunningMarkerName, ignored);

@@ -1,7 +1,7 @@
 #include "core/progress_file.h"
 
 #include "core/progress_file_detail.h"
-#include "core/record_file.h"
+#include "core/progress_image.h"
 
 #include <algorithm>
 
@@ -15,7 +15,7 @@ uint8_t HeaderByte(int recordNumber) {
                : 0;
 }
 
-bool PointsAtRecordOfKind(const RecordFile& file, int recordNumber, bool exam) {
+bool PointsAtRecordOfKind(const ProgressImage& file, int recordNumber, bool exam) {
     if (recordNumber < 2 || recordNumber > file.recordCount())
         return false;
     return IsExamByte(file.read(recordNumber)[0]) == exam;
@@ -30,7 +30,7 @@ using detail::PointsAtRecordOfKind;
 
 // Where a save writes: the suspended record if the session has one, otherwise a new record
 // behind the last one. The header is record 1 even in a file too short to hold it.
-int RecordToWrite(const RecordFile& file, int suspended, bool exam) {
+int RecordToWrite(const ProgressImage& file, int suspended, bool exam) {
     if (PointsAtRecordOfKind(file, suspended, exam))
         return suspended;
     return std::max(file.recordCount(), 1) + 1;
@@ -45,77 +45,80 @@ bool CounterInRange(int counter) {
     return counter >= 1 && counter <= TakeCounterCount;
 }
 
-} // namespace
+// Files the entry in the first free slot; false when all 36 are taken.
+bool FileLogEntry(ProgressHeader& header, const LogEntry& entry, DateValue today) {
+    for (int slot = 1; slot <= LogSlotCount; ++slot) {
+        if (header.LogDates[slot][0] != '\0')
+            continue;
+        header.LogDates[slot] = DateText(today);
+        header.LogCodes[slot] = static_cast<uint8_t>(entry.code);
+        header.LogScores[slot] = entry.score;
+        return true;
+    }
+    return false;
+}
 
-SaveResult SaveReviewTest(SessionState& state, bool finished, DateValue today) {
-    ReviewTestRecord& record = state.Buffers.review;
-    FillReviewTestRecord(state, DateText(today), record);
-    RecordFile file(ProgressFile, true);
-    if (!file.isOpen())
-        return {SaveStatus::FileFailed, 0};
-    const int number = RecordToWrite(file, state.SuspendedTestRecord, false);
-    state.SuspendedTestRecord = static_cast<int16_t>(number);
-    if (!file.write(number, EncodeReviewTest(record)))
-        return {SaveStatus::FileFailed, number};
+// The save of a test or an exam: its record, then the header with the suspended number, the
+// take counter and the log entry, written in one go. The session changes only once the file
+// holds it all.
+SaveResult SaveRecord(SessionState& state, const RecordBytes& record, int16_t& suspended, bool exam,
+                      int counter, bool finished, DateValue today,
+                      const std::optional<LogEntry>& log) {
+    ProgressImage file = ProgressImage::load();
+    const int number = RecordToWrite(file, suspended, exam);
+    file.write(number, record);
 
     ProgressHeader& header = state.Buffers.header;
     header = DecodeHeader(file.read(1));
-    if (finished) {
-        state.SuspendedTestRecord = 0;
+    const int16_t stays = finished ? 0 : static_cast<int16_t>(number);
+    (exam ? header.SuspendedExamRecord : header.SuspendedTestRecord) = HeaderByte(stays);
+    if (CounterInRange(counter))
+        header.TakeCounts[counter] = static_cast<uint8_t>(state.TakeCounts[counter]);
+    if (log)
+        FileLogEntry(header, *log, today);
+    file.write(1, EncodeHeader(header));
+    if (!file.commit())
+        return {SaveStatus::FileFailed, number};
+    suspended = stays;
+    return {StatusOf(stays), number};
+}
+
+} // namespace
+
+SaveResult SaveReviewTest(SessionState& state, bool finished, DateValue today,
+                          const std::optional<LogEntry>& log) {
+    ReviewTestRecord& record = state.Buffers.review;
+    FillReviewTestRecord(state, DateText(today), record);
+    const SaveResult result = SaveRecord(state, EncodeReviewTest(record), state.SuspendedTestRecord,
+                                         false, state.CurrentTopic, finished, today, log);
+    if (finished && result.status != SaveStatus::FileFailed) {
         state.TestFurthest = 0;
         state.TestPosition = 0;
     }
-    header.SuspendedTestRecord = HeaderByte(state.SuspendedTestRecord);
-    if (CounterInRange(state.CurrentTopic))
-        header.TakeCounts[state.CurrentTopic] =
-            static_cast<uint8_t>(state.TakeCounts[state.CurrentTopic]);
-    if (!file.write(1, EncodeHeader(header)))
-        return {SaveStatus::FileFailed, number};
-    return {StatusOf(state.SuspendedTestRecord), number};
+    return result;
 }
 
 SaveResult SaveExam(SessionState& state, bool finished, DateValue today) {
     ExamRecord& record = state.Buffers.exam;
     FillExamRecord(state, DateText(today), record);
-    RecordFile file(ProgressFile, true);
-    if (!file.isOpen())
-        return {SaveStatus::FileFailed, 0};
-    const int number = RecordToWrite(file, state.SuspendedExamRecord, true);
-    state.SuspendedExamRecord = static_cast<int16_t>(number);
-    if (!file.write(number, EncodeExam(record)))
-        return {SaveStatus::FileFailed, number};
-
-    ProgressHeader& header = state.Buffers.header;
-    header = DecodeHeader(file.read(1));
-    if (finished) {
-        state.SuspendedExamRecord = 0;
+    const SaveResult result = SaveRecord(state, EncodeExam(record), state.SuspendedExamRecord, true,
+                                         state.ExamKind + 9, finished, today, std::nullopt);
+    if (finished && result.status != SaveStatus::FileFailed)
         state.ExamPosition = 0;
-    }
-    header.SuspendedExamRecord = HeaderByte(state.SuspendedExamRecord);
-    const int counter = state.ExamKind + 9;
-    if (CounterInRange(counter))
-        header.TakeCounts[counter] = static_cast<uint8_t>(state.TakeCounts[counter]);
-    if (!file.write(1, EncodeHeader(header)))
-        return {SaveStatus::FileFailed, number};
-    return {StatusOf(state.SuspendedExamRecord), number};
+    return result;
 }
 
-void AppendProgressLog(int code, float score, DateValue today) {
-    RecordFile file(ProgressFile, true);
+bool AppendProgressLog(int code, float score, DateValue today) {
+    ProgressImage file = ProgressImage::load();
     ProgressHeader header = DecodeHeader(file.read(1));
-    for (int slot = 1; slot <= LogSlotCount; ++slot) {
-        if (header.LogDates[slot][0] != '\0')
-            continue;
-        header.LogDates[slot] = DateText(today);
-        header.LogCodes[slot] = static_cast<uint8_t>(code);
-        header.LogScores[slot] = score;
-        file.write(1, EncodeHeader(header));
-        return;
-    }
+    if (!FileLogEntry(header, {code, score}, today))
+        return true; // all slots taken: the entry is dropped and nothing changes
+    file.write(1, EncodeHeader(header));
+    return file.commit();
 }
 
-void SavePreferences(const SessionState& state) {
-    RecordFile file(ProgressFile, true);
+bool SavePreferences(const SessionState& state) {
+    ProgressImage file = ProgressImage::load();
     ProgressHeader header = DecodeHeader(file.read(1));
     header.ScrambleQuestions = state.ScrambleQuestions ? 1 : 0;
     header.SoundOn = state.SoundOn ? 1 : 0;
@@ -123,25 +126,25 @@ void SavePreferences(const SessionState& state) {
     header.IncludeProgressReport = state.IncludeProgressReport ? 1 : 0;
     header.PassingGrade = static_cast<uint8_t>(state.PassingGrade);
     file.write(1, EncodeHeader(header));
+    return file.commit();
 }
 
 ProgressHeader ReadProgressHeader() {
-    const RecordFile file(ProgressFile, false);
-    return DecodeHeader(file.read(1));
+    return DecodeHeader(ProgressImage::load().read(1));
 }
 
-void WriteProgressHeader(const ProgressHeader& header) {
-    RecordFile file(ProgressFile, true);
+bool WriteProgressHeader(const ProgressHeader& header) {
+    ProgressImage file = ProgressImage::load();
     file.write(1, EncodeHeader(header));
+    return file.commit();
 }
 
 int ProgressRecordCount() {
-    const RecordFile file(ProgressFile, false);
-    return file.recordCount();
+    return ProgressImage::load().recordCount();
 }
 
 std::vector<ReviewTestRecord> ReadReviewTestRecords() {
-    const RecordFile file(ProgressFile, false);
+    const ProgressImage file = ProgressImage::load();
     std::vector<ReviewTestRecord> records;
     for (int n = 2; n <= file.recordCount(); ++n) {
         const RecordBytes bytes = file.read(n);
@@ -152,7 +155,7 @@ std::vector<ReviewTestRecord> ReadReviewTestRecords() {
 }
 
 std::vector<ExamRecord> ReadExamRecords() {
-    const RecordFile file(ProgressFile, false);
+    const ProgressImage file = ProgressImage::load();
     std::vector<ExamRecord> records;
     for (int n = 2; n <= file.recordCount(); ++n) {
         const RecordBytes bytes = file.read(n);
@@ -163,7 +166,7 @@ std::vector<ExamRecord> ReadExamRecords() {
 }
 
 void RestoreSuspended(SessionState& state) {
-    const RecordFile file(ProgressFile, false);
+    const ProgressImage file = ProgressImage::load();
     const ProgressHeader header = DecodeHeader(file.read(1));
     state.SuspendedTestRecord = 0;
     state.SuspendedExamRecord = 0;

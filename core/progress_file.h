@@ -1,10 +1,12 @@
 #pragma once
 // The operations that write the progress file TesseraConfig.MS; nothing else changes a record.
-// Each opens the file by bare name in the current directory, does its work and closes it.
+// Each reads the file whole by bare name in the current directory, changes it in memory and
+// writes it whole through NewConfig, so that a crash leaves the old file or the new one.
 
 #include "core/records.h"
 #include "core/session_state.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -32,6 +34,11 @@ inline constexpr const char* SuspendedBeyondHeaderMessage =
     "resumed after you quit. Finish it before you close the program, or erase older tests "
     "from a report card.";
 
+struct LogEntry {
+    int code = 0; // 1 to 9 a topic, 10 to 12 an exam
+    float score = 0;
+};
+
 struct SaveResult {
     SaveStatus status = SaveStatus::Saved;
     int recordNumber = 0; // the record written
@@ -39,7 +46,9 @@ struct SaveResult {
 
 // Writes the review test in progress; a finished test clears SuspendedTestRecord, TestFurthest
 // and TestPosition. Stores TakeCounts(CurrentTopic) in its counter byte.
-SaveResult SaveReviewTest(SessionState& state, bool finished, DateValue today);
+// A finished run's log entry goes with its save, so that a save that fails files neither.
+SaveResult SaveReviewTest(SessionState& state, bool finished, DateValue today,
+                          const std::optional<LogEntry>& log = std::nullopt);
 
 // Writes the exam in progress (scoring it, see FillExamRecord); a finished exam clears
 // SuspendedExamRecord and ExamPosition. The record number written is returned, since an exam
@@ -47,10 +56,11 @@ SaveResult SaveReviewTest(SessionState& state, bool finished, DateValue today);
 SaveResult SaveExam(SessionState& state, bool finished, DateValue today);
 
 // Files one log entry in the first free slot of 36; with none free the entry is dropped.
-void AppendProgressLog(int code, float score, DateValue today);
+// Every operation that writes returns false, or FileFailed, when the file kept its old state.
+bool AppendProgressLog(int code, float score, DateValue today);
 
 // Writes the four option flags and the passing grade; header bytes 0 to 4 only.
-void SavePreferences(const SessionState& state);
+bool SavePreferences(const SessionState& state);
 
 // Rewrites the file after a report card erased rows: the header, then the card's records in
 // the card's order, then the records of the other kind in their old order. The suspended
@@ -63,7 +73,7 @@ SaveStatus RemoveProgressRecord(SessionState& state, int recordNumber);
 
 // Reads: a missing or short file reads as zeros, so a missing file is a first run.
 ProgressHeader ReadProgressHeader();
-void WriteProgressHeader(const ProgressHeader& header);
+bool WriteProgressHeader(const ProgressHeader& header);
 int ProgressRecordCount();
 std::vector<ReviewTestRecord>
 ReadReviewTestRecords();                   // records 2 on with a first byte of 9 or less

@@ -5,7 +5,7 @@
 
 namespace tessera {
 
-class RecordFile;
+class ProgressImage;
 
 namespace detail {
 
@@ -13,7 +13,7 @@ namespace detail {
 uint8_t HeaderByte(int recordNumber);
 
 // True when the record lies behind the header, inside the file, and is of the asked kind.
-bool PointsAtRecordOfKind(const RecordFile& file, int recordNumber, bool exam);
+bool PointsAtRecordOfKind(const ProgressImage& file, int recordNumber, bool exam);
 
 } // namespace detail
 } // namespace tessera

@@ -4,32 +4,14 @@
 
 #include "core/progress_file.h"
 #include "core/progress_file_detail.h"
-#include "core/record_file.h"
-
-#include <cstdio>
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include "core/progress_image.h"
+#include "platform/file_system.h"
 
 namespace tessera {
 
 namespace {
 
 using detail::HeaderByte;
-
-// Flushes NewConfig, renames it over the progress file and makes the rename itself durable.
-SaveStatus Commit(RecordFile& fresh) {
-    if (!fresh.sync())
-        return SaveStatus::FileFailed;
-    if (std::rename(NewProgressFile, ProgressFile) != 0)
-        return SaveStatus::FileFailed;
-    const int folder = ::open(".", O_RDONLY | O_CLOEXEC);
-    if (folder >= 0) {
-        ::fsync(folder);
-        ::close(folder);
-    }
-    return SaveStatus::Saved;
-}
 
 RecordBytes Encode(const ReviewTestRecord& record) {
     return EncodeReviewTest(record);
@@ -41,29 +23,27 @@ RecordBytes Encode(const ExamRecord& record) {
 
 template <class Record>
 SaveStatus Rewrite(SessionState& state, const std::vector<Record>& kept, bool keptAreExams) {
-    const RecordFile old(ProgressFile, false);
-    if (!old.isOpen())
+    if (!Files().exists(ProgressFile))
         return SaveStatus::FileFailed;
-    RecordFile fresh(NewProgressFile, true);
-    if (!fresh.isOpen() || !fresh.truncate(0))
-        return SaveStatus::FileFailed;
-
+    const ProgressImage old = ProgressImage::load();
+    ProgressImage fresh;
     int written = 0;
-    bool ok = fresh.write(++written, old.read(1));
+    fresh.write(++written, old.read(1));
     for (const Record& record : kept)
-        ok = ok && fresh.write(++written, Encode(record));
+        fresh.write(++written, Encode(record));
 
     // The records of the other kind follow in their old order; the suspended one among them
     // takes its new number, compared once with the number as it stood before the walk.
-    int16_t& suspended = keptAreExams ? state.SuspendedTestRecord : state.SuspendedExamRecord;
-    const int suspendedBefore = suspended;
+    int16_t& suspendedNow = keptAreExams ? state.SuspendedTestRecord : state.SuspendedExamRecord;
+    const int suspendedBefore = suspendedNow;
+    int16_t suspended = suspendedNow;
     int ordinal = 0;
     for (int n = 2; n <= old.recordCount(); ++n) {
         const RecordBytes bytes = old.read(n);
         if (IsExamByte(bytes[0]) == keptAreExams)
             continue;
         ++ordinal;
-        ok = ok && fresh.write(++written, bytes);
+        fresh.write(++written, bytes);
         if (n == suspendedBefore)
             suspended = static_cast<int16_t>(static_cast<int>(kept.size()) + ordinal + 1);
     }
@@ -71,10 +51,11 @@ SaveStatus Rewrite(SessionState& state, const std::vector<Record>& kept, bool ke
     ProgressHeader header = DecodeHeader(fresh.read(1));
     (keptAreExams ? header.SuspendedTestRecord : header.SuspendedExamRecord) =
         HeaderByte(suspended);
-    ok = ok && fresh.write(1, EncodeHeader(header));
-    if (!ok)
+    fresh.write(1, EncodeHeader(header));
+    if (!fresh.commit())
         return SaveStatus::FileFailed;
-    return Commit(fresh);
+    suspendedNow = suspended;
+    return SaveStatus::Saved;
 }
 
 // The record number a suspended record has once record `removed` is gone.
@@ -95,44 +76,39 @@ SaveStatus RewriteProgressFile(SessionState& state, const std::vector<ExamRecord
 }
 
 SaveStatus RemoveProgressRecord(SessionState& state, int recordNumber) {
-    const RecordFile old(ProgressFile, false);
-    if (!old.isOpen())
-        return SaveStatus::FileFailed;
+    const ProgressImage old = ProgressImage::load();
     const int count = old.recordCount();
     if (recordNumber < 2 || recordNumber > count)
         return SaveStatus::Saved;
-    RecordFile fresh(NewProgressFile, true);
-    if (!fresh.isOpen() || !fresh.truncate(0))
-        return SaveStatus::FileFailed;
-
+    ProgressImage fresh;
     int written = 0;
-    bool ok = true;
     for (int n = 1; n <= count; ++n)
         if (n != recordNumber)
-            ok = ok && fresh.write(++written, old.read(n));
+            fresh.write(++written, old.read(n));
 
-    state.SuspendedTestRecord = AfterRemoval(state.SuspendedTestRecord, recordNumber);
-    state.SuspendedExamRecord = AfterRemoval(state.SuspendedExamRecord, recordNumber);
+    const int16_t test = AfterRemoval(state.SuspendedTestRecord, recordNumber);
+    const int16_t exam = AfterRemoval(state.SuspendedExamRecord, recordNumber);
     ProgressHeader header = DecodeHeader(fresh.read(1));
-    header.SuspendedTestRecord = HeaderByte(state.SuspendedTestRecord);
-    header.SuspendedExamRecord = HeaderByte(state.SuspendedExamRecord);
-    ok = ok && fresh.write(1, EncodeHeader(header));
-    if (!ok)
+    header.SuspendedTestRecord = HeaderByte(test);
+    header.SuspendedExamRecord = HeaderByte(exam);
+    fresh.write(1, EncodeHeader(header));
+    if (!fresh.commit())
         return SaveStatus::FileFailed;
-    return Commit(fresh);
+    state.SuspendedTestRecord = test;
+    state.SuspendedExamRecord = exam;
+    return SaveStatus::Saved;
 }
 
 void RecoverProgressFile() {
-    struct stat info {};
-    if (::stat(NewProgressFile, &info) != 0)
+    FileSystem& files = Files();
+    if (!files.exists(NewProgressFile))
         return;
-    if (::stat(ProgressFile, &info) == 0) {
-        std::remove(NewProgressFile);
+    if (files.exists(ProgressFile)) {
+        files.remove(NewProgressFile);
         return;
     }
-    ::stat(NewProgressFile, &info);
-    if (info.st_size >= RecordSize)
-        std::rename(NewProgressFile, ProgressFile);
+    if (files.read(NewProgressFile).value_or(std::string()).size() >= RecordSize)
+        files.rename(NewProgressFile, ProgressFile);
 }
 
 } // namespace tessera

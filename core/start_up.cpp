@@ -3,17 +3,16 @@
 #include "core/content_file.h"
 #include "core/new_notebook.h"
 #include "core/progress_file.h"
-#include "core/record_file.h"
+#include "core/progress_image.h"
 #include "platform/dialogs.h"
+#include "platform/file_system.h"
 #include "platform/printer.h"
 #include "platform/windows1252.h"
 
 #include <QStringList>
 
 #include <cerrno>
-#include <cstdio>
 #include <filesystem>
-#include <memory>
 
 namespace tessera {
 
@@ -23,10 +22,7 @@ constexpr int FirstRunPassingGrade = 70;
 const char* const CrLf = "\r\n";
 
 bool writeWholeFile(const std::string& name, const std::string& bytes) {
-    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(name.c_str(), "wb"),
-                                                               &std::fclose);
-    return file && std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size() &&
-           std::fflush(file.get()) == 0;
+    return WriteWhole(Files(), name, bytes);
 }
 
 } // namespace
@@ -85,7 +81,8 @@ StartUpOutcome StartUp::beforeTitle() {
 
     // Opening the progress file creates it; a header that cannot be read reads as zeros.
     RecoverProgressFile();
-    { const RecordFile created(ProgressFile, true); }
+    if (!Files().exists(ProgressFile))
+        ProgressImage().commit(); // an empty file: a first run
     const ProgressHeader header = ReadProgressHeader();
 
     if (!markRunning())
@@ -180,11 +177,8 @@ bool StartUp::firstRun() {
 }
 
 std::optional<StartUpError> StartUp::writeFirstHeader(const std::string& name) {
-    RecordFile file(ProgressFile, true);
-    if (!file.isOpen())
-        return FileError();
     // The log and the reserved bytes stay as they were read.
-    ProgressHeader header = DecodeHeader(file.read(1));
+    ProgressHeader header = ReadProgressHeader();
     header.SuspendedTestRecord = 0;
     header.SuspendedExamRecord = 0;
     header.ScrambleQuestions = 1;
@@ -195,7 +189,7 @@ std::optional<StartUpError> StartUp::writeFirstHeader(const std::string& name) {
     header.UserName = name;
     header.UserName.resize(UserNameLength, ' ');
     header.TakeCounts.fill(0);
-    if (!file.write(1, EncodeHeader(header)))
+    if (!WriteProgressHeader(header))
         return FileError();
     return std::nullopt;
 }

@@ -46,7 +46,8 @@ ExamEndOutcome EndExam(SessionState& state, bool finished, int committedRows, Da
     if (refreshNavigation) {
         refreshNavigation();
     }
-    if (!finished) {
+    // An exam whose save failed is not over: it is logged and counted when it is finished again.
+    if (!finished || !outcome.saved) {
         return outcome;
     }
     const int counter = state.ExamKind + TopicCount;

@@ -1,10 +1,10 @@
 #include "platform/rich_text_view.h"
 
+#include "platform/file_system.h"
 #include "platform/printer.h"
 #include "platform/rtf_reader.h"
 #include "platform/rtf_writer.h"
 
-#include <QFile>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QTextDocumentFragment>
@@ -76,21 +76,16 @@ std::string RichTextView::selRtf() const {
 }
 
 bool RichTextView::loadFile(const QString& fileName) {
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
+    const std::optional<std::string> bytes = Files().read(fileName.toStdString());
+    if (!bytes)
         return false;
-    const QByteArray bytes = file.readAll();
-    setTextRtf(std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+    setTextRtf(*bytes);
     return true;
 }
 
 bool RichTextView::saveFile(const QString& fileName) const {
-    QFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        return false;
-    const std::string rtf = textRtf();
-    return file.write(rtf.data(), static_cast<qint64>(rtf.size())) ==
-           static_cast<qint64>(rtf.size());
+    // A new file renamed over the old one: a crash while saving leaves the old notebook.
+    return WriteWhole(Files(), fileName.toStdString(), textRtf());
 }
 
 void RichTextView::selPrint(Printer& printer) const {

@@ -19,6 +19,7 @@ class QTimer;
 
 namespace tessera {
 
+struct SaveResult;
 class ReviewGauge;
 class RichTextView;
 
@@ -66,6 +67,7 @@ private:
     void PreviousItem();
     void EndTest();
     void Form_Unload();
+    SaveResult SaveTest();
     void OpenAladdin();
     void CoinToss();
     void openBeside(ScreenName name);

@@ -124,14 +124,27 @@ void Quiz800::EndTest() {
         passed ? MessageIcon::Exclamation : MessageIcon::Question, MessageButtons::OkCancel);
     if (answer != MessageAnswer::Ok)
         return;
+    TestFinished = true;
+    close();
+}
+
+SaveResult Quiz800::SaveTest() {
+    if (!TestFinished)
+        return SaveReviewTest(m_state, false, std::floor(now()));
+    // The drill is logged and counted by the save that finishes the test: a save that fails
+    // leaves the test to be finished again, and then it counts once.
     const int topic = m_state.CurrentTopic;
-    if (LogsDrill(m_state.TestType, m_state.TakeCounts[topic])) {
-        AppendProgressLog(topic, m_state.TestScore, std::floor(now()));
+    const int16_t takes = m_state.TakeCounts[topic];
+    std::optional<LogEntry> log;
+    if (LogsDrill(m_state.TestType, takes)) {
+        log = LogEntry{topic, m_state.TestScore};
         if (DrillCounts(m_state.TestScore, m_state.PassingGrade))
             ++m_state.TakeCounts[topic];
     }
-    TestFinished = true;
-    close();
+    const SaveResult saved = SaveReviewTest(m_state, true, std::floor(now()), log);
+    if (saved.status == SaveStatus::FileFailed)
+        m_state.TakeCounts[topic] = takes;
+    return saved;
 }
 
 void Quiz800::Form_Unload() {
@@ -152,7 +165,7 @@ void Quiz800::Form_Unload() {
     } else {
         m_state.TestFurthest = plan.furthest;
         m_state.TestPosition = plan.position;
-        const SaveResult saved = SaveReviewTest(m_state, TestFinished, std::floor(now()));
+        const SaveResult saved = SaveTest();
         if (saved.status == SaveStatus::SuspendedBeyondHeader) {
             m_context.services.dialogs.message(QString::fromLatin1(SuspendedBeyondHeaderMessage),
                                                QString::fromLatin1(SuspendedBeyondHeaderTitle),

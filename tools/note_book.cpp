@@ -13,10 +13,10 @@
 #include <QCloseEvent>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QStyle>
+#include <QTextDocument>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -25,6 +25,10 @@ namespace {
 
 constexpr int NoteBookHelpTopic = 8;
 constexpr int TwipsPerPixel = 15;
+constexpr const char* NoteBookNotSavedTitle = "Notebook Not Saved";
+constexpr const char* NoteBookNotSavedMessage =
+    "Your notebook could not be written to TesseraNoteBook.RTF. Make sure the study folder can "
+    "be written to and has room, then save your notes again.";
 
 // Where the cursor stood when the notebook was last closed, kept for the whole run.
 int CursorPosition = 0;
@@ -46,6 +50,12 @@ NoteBook::NoteBook(ScreenContext& context) : m_context(context) {
         Command1[1]->setEnabled(false);
     RichTextBox1->setSelStart(CursorPosition);
     state.NoteBookChanged = false;
+    // Every edit changes the text, whether typed, pasted, cut, undone or dropped with the mouse.
+    connect(RichTextBox1->document(), &QTextDocument::contentsChange, this,
+            [this](int, int removed, int added) {
+                if (removed != 0 || added != 0)
+                    m_context.state.NoteBookChanged = true;
+            });
     resize(620, 480);
 }
 
@@ -98,8 +108,13 @@ QGroupBox* NoteBook::buildFindPanel() {
     return Frame1;
 }
 
-void NoteBook::SaveNoteBook() {
-    RichTextBox1->saveFile(FileName(m_context.state));
+bool NoteBook::SaveNoteBook() {
+    if (RichTextBox1->saveFile(FileName(m_context.state)))
+        return true;
+    m_context.services.dialogs.message(QString::fromLatin1(NoteBookNotSavedMessage),
+                                       QString::fromLatin1(NoteBookNotSavedTitle),
+                                       MessageIcon::Critical, MessageButtons::Ok);
+    return false;
 }
 
 void NoteBook::Command1_Click(int index) {
@@ -148,12 +163,7 @@ void NoteBook::FindNext() {
 
 bool NoteBook::eventFilter(QObject* watched, QEvent* event) {
     if (watched == RichTextBox1) {
-        if (event->type() == QEvent::KeyPress) {
-            // A key that types, deletes or breaks a line changes the notebook.
-            const auto* key = static_cast<QKeyEvent*>(event);
-            if (!key->text().isEmpty() || key->key() == Qt::Key_Delete)
-                m_context.state.NoteBookChanged = true;
-        } else if (event->type() == QEvent::Resize) {
+        if (event->type() == QEvent::Resize) {
             // The lines end at 0.95 of the window's width, never past the view's own edge.
             const int inside = RichTextBox1->width() - 2 * RichTextBox1->frameWidth() -
                                style()->pixelMetric(QStyle::PM_ScrollBarExtent);
@@ -170,8 +180,11 @@ void NoteBook::closeEvent(QCloseEvent* event) {
         const MessageAnswer answer = m_context.services.dialogs.message(
             QStringLiteral("Save your changes to disk?"), QStringLiteral("Change Detected!"),
             MessageIcon::None, MessageButtons::YesNo);
-        if (answer == MessageAnswer::Yes)
-            SaveNoteBook();
+        // A notebook that could not be saved stays open with its changes.
+        if (answer == MessageAnswer::Yes && !SaveNoteBook()) {
+            event->ignore();
+            return;
+        }
     }
     state.NoteBookChanged = false;
     CursorPosition = RichTextBox1->selStart();

@@ -27,7 +27,7 @@ public:
     explicit NoteBook(ScreenContext& context);
 
     // Writes the notebook to its file; the end of the program calls it too.
-    void SaveNoteBook() override;
+    bool SaveNoteBook() override;
 
     RichTextView* RichTextBox1 = nullptr;
     QGroupBox* Frame1 = nullptr;

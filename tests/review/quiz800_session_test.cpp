@@ -5,6 +5,7 @@
 #include "core/progress_file.h"
 #include "quiz800_screen.h"
 #include "review/review_test.h"
+#include "tests/support/faulty_files.h"
 
 #include <QFile>
 #include <QRadioButton>
@@ -122,6 +123,30 @@ private Q_SLOTS:
         QCOMPARE(header.LogScores[1], static_cast<float>(right) / 100.0F);
         QCOMPARE(int(f->state.TakeCounts[1]), drills);
         QCOMPARE(int(header.TakeCounts[1]), drills);
+    }
+
+    void aFailedSaveOnDoneCountsTheDrillOnceWhenFinishedAgain() {
+        resumeAtTheEnd(80, 20);
+        {
+            // The disk takes one record and no more.
+            FaultyFiles full(FaultyFiles::Fault::DiskFull, 2);
+            Quiz800Driver quiz(*f);
+            f->dialogs.answer(MessageAnswer::Ok);
+            quiz.next();
+        }
+        QCOMPARE(f->dialogs.titles().back(), QStringLiteral("Progress Not Saved"));
+        QCOMPARE(f->state.TakeCounts[1], 0);
+        QCOMPARE(f->state.TestPosition, 100); // still to be finished
+        QCOMPARE(ReadProgressHeader().LogCodes[1], uint8_t{0});
+
+        Quiz800Driver again(*f);
+        f->dialogs.answer(MessageAnswer::Ok);
+        again.next();
+        const ProgressHeader header = ReadProgressHeader();
+        QCOMPARE(header.LogCodes[1], uint8_t{1});
+        QCOMPARE(header.LogCodes[2], uint8_t{0});
+        QCOMPARE(f->state.TakeCounts[1], 1);
+        QCOMPARE(header.TakeCounts[1], uint8_t{1});
     }
 
     void cancelOnTheFirstItemLeavesNoTrace() {

@@ -20,7 +20,10 @@ namespace {
 
 class OpenNoteBook final : public QWidget, public SavesNoteBook {
 public:
-    void SaveNoteBook() override { ++saves; }
+    bool SaveNoteBook() override {
+        ++saves;
+        return true;
+    }
     int saves = 0;
 };
 

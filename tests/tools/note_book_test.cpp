@@ -1,15 +1,19 @@
-// The notebook as a candidate keeps it: typed notes saved on closing and read back, the
-// question only when something changed, the cursor kept between openings, and the find.
+// The notebook as a candidate keeps it: notes typed or edited with the mouse saved on closing
+// and read back, the question only when something changed, a failed save told, the cursor kept
+// between openings, and the find.
 
 #include "platform/rich_text_view.h"
+#include "tests/support/faulty_files.h"
 #include "tests/support/recording_screens.h"
 #include "tests/support/test_services.h"
 #include "tools/note_book.h"
 
 #include <QCheckBox>
+#include <QClipboard>
 #include <QFile>
 #include <QGroupBox>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QPushButton>
 #include <QtTest>
 
@@ -32,6 +36,10 @@ private:
         file.write("{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\\f0\\fs24 ");
         file.write(body);
         file.write("\\par }");
+    }
+    static QByteArray readNoteBook() {
+        QFile file(QStringLiteral("TesseraNoteBook.RTF"));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
     std::unique_ptr<NoteBook> open() {
         auto notebook = std::make_unique<NoteBook>(context);
@@ -94,6 +102,72 @@ private Q_SLOTS:
         RichTextView reread;
         QVERIFY(reread.loadFile(QStringLiteral("TesseraNoteBook.RTF")));
         QVERIFY(reread.text().contains(QStringLiteral("Kept at the end.")));
+    }
+
+    // Edits the mouse makes through the context menu or a drop change the notebook as keys do.
+    void mouseEditsMarkTheNotebookChanged_data() {
+        QTest::addColumn<int>("edit");
+        QTest::newRow("paste") << 0;
+        QTest::newRow("cut") << 1;
+        QTest::newRow("drop") << 2;
+        QTest::newRow("undo after a save") << 3;
+    }
+
+    void mouseEditsMarkTheNotebookChanged() {
+        QFETCH(int, edit);
+        auto notebook = open();
+        RichTextView& view = *notebook->RichTextBox1;
+        view.setSelStart(0);
+        view.setSelLength(9);
+        QMimeData words;
+        words.setText(QStringLiteral("Agency. "));
+        const QPoint inside = view.viewport()->rect().center();
+        QDragEnterEvent enter(inside, Qt::CopyAction, &words, Qt::LeftButton, Qt::NoModifier);
+        QDragMoveEvent move(inside, Qt::CopyAction, &words, Qt::LeftButton, Qt::NoModifier);
+        QDropEvent drop(inside, Qt::CopyAction, &words, Qt::LeftButton, Qt::NoModifier);
+        switch (edit) {
+        case 0:
+            QGuiApplication::clipboard()->setMimeData(new QMimeData);
+            QGuiApplication::clipboard()->setText(words.text());
+            view.paste();
+            break;
+        case 1:
+            view.cut();
+            break;
+        case 2:
+            QCoreApplication::sendEvent(view.viewport(), &enter);
+            QCoreApplication::sendEvent(view.viewport(), &move);
+            QCoreApplication::sendEvent(view.viewport(), &drop);
+            break;
+        default:
+            view.cut();
+            QVERIFY(notebook->SaveNoteBook());
+            state.NoteBookChanged = false; // as the end of the program leaves it
+            view.undo();
+            break;
+        }
+        QVERIFY(state.NoteBookChanged);
+        doubles.dialogs.answer(MessageAnswer::No);
+        notebook->close();
+        QCOMPARE(doubles.dialogs.titles(), QStringList{QStringLiteral("Change Detected!")});
+    }
+
+    void aFailedSaveIsToldAndKeepsTheNotesOpen() {
+        const QByteArray before = readNoteBook();
+        auto notebook = open();
+        typeAtEnd(*notebook, QStringLiteral(" Escrow."));
+        FaultyFiles full(FaultyFiles::Fault::DiskFull, 1);
+        doubles.dialogs.answer(MessageAnswer::Yes);
+        notebook->close();
+        const ShownMessage& told = doubles.dialogs.messages().back();
+        QCOMPARE(told.title, QStringLiteral("Notebook Not Saved"));
+        QCOMPARE(told.text, QStringLiteral("Your notebook could not be written to "
+                                           "TesseraNoteBook.RTF. Make sure the study folder can "
+                                           "be written to and has room, then save your notes "
+                                           "again."));
+        QVERIFY(notebook->isVisible());
+        QVERIFY(state.NoteBookChanged);
+        QCOMPARE(readNoteBook(), before);
     }
 
     void reopeningRestoresTheCursor() {

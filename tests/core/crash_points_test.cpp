@@ -1,0 +1,237 @@
+// Every operation that writes the progress file or the notebook, with the machine stopped at
+// each write, flush, rename and removal in turn, with a short write and with a full disk; then
+// start-up's recovery. Every record finished before the operation stays intact, and the file
+// is the old one or the new one.
+
+#include "core/progress_file.h"
+#include "platform/rich_text_view.h"
+#include "tests/support/faulty_files.h"
+#include "tests/support/study_folder.h"
+
+#include <QtTest>
+
+#include <algorithm>
+#include <functional>
+#include <set>
+
+namespace tessera {
+
+namespace {
+
+constexpr const char* NoteBookFile = "TesseraNoteBook.RTF";
+const DateValue Today = DateFromParts(2026, 11, 19);
+
+std::string Bytes(const RecordBytes& record) {
+    return {record.begin(), record.end()};
+}
+
+ReviewTestRecord Test(int topic, int position) {
+    ReviewTestRecord r;
+    r.Topic = static_cast<uint8_t>(topic);
+    r.Date = "03-04-2026";
+    r.Position = static_cast<int16_t>(position);
+    r.Furthest = static_cast<int16_t>(position);
+    r.ItemCount = 4;
+    r.TestType = 1;
+    for (int p = 1; p <= 4; ++p)
+        r.Items[p] = static_cast<int16_t>(topic * 10 + p);
+    return r;
+}
+
+ExamRecord Exam(int kind, int position) {
+    ExamRecord e;
+    e.Kind = static_cast<uint8_t>(kind + 9);
+    e.Date = "05-06-2026";
+    e.Position = static_cast<int16_t>(position);
+    e.ItemCount = 3;
+    e.ExamType = static_cast<uint8_t>(kind);
+    e.TimeLimit = 30;
+    for (int p = 1; p <= 3; ++p) {
+        e.Items[p] = static_cast<int16_t>(kind * 100 + p);
+        e.AnswerCodes[p] = 1;
+    }
+    return e;
+}
+
+// A history of finished tests and exams, with the test of record 5 and the exam of record 7
+// suspended.
+std::vector<std::string> StartingRecords() {
+    ProgressHeader header;
+    header.UserName = std::string("Pat Doe").append(23, ' ');
+    header.PassingGrade = 70;
+    header.SuspendedTestRecord = 5;
+    header.SuspendedExamRecord = 7;
+    return {Bytes(EncodeHeader(header)),    Bytes(EncodeReviewTest(Test(1, 0))),
+            Bytes(EncodeExam(Exam(1, 0))),  Bytes(EncodeReviewTest(Test(2, 0))),
+            Bytes(EncodeReviewTest(Test(3, 2))), Bytes(EncodeExam(Exam(2, 0))),
+            Bytes(EncodeExam(Exam(3, 1)))};
+}
+
+// The finished records: all but the header and the two suspended ones.
+std::vector<std::string> FinishedRecords() {
+    const std::vector<std::string> records = StartingRecords();
+    return {records[1], records[2], records[3], records[5]};
+}
+
+std::vector<std::string> RecordsOf(const std::string& file) {
+    std::vector<std::string> records;
+    for (std::size_t at = 0; at + RecordSize <= file.size(); at += RecordSize)
+        records.push_back(file.substr(at, RecordSize));
+    return records;
+}
+
+struct Operation {
+    const char* name;
+    const char* file;
+    std::function<void(SessionState&)> run;
+};
+
+std::vector<Operation> Operations() {
+    const auto erasedOnCard = [](SessionState& state) {
+        RewriteProgressFile(state, std::vector<ReviewTestRecord>{Test(2, 0)});
+    };
+    const auto examsErased = [](SessionState& state) {
+        RewriteProgressFile(state, std::vector<ExamRecord>{Exam(2, 0), Exam(1, 0)});
+    };
+    return {
+        {"SaveReviewTest, broken off", ProgressFile,
+         [](SessionState& s) { SaveReviewTest(s, false, Today); }},
+        {"SaveReviewTest, finished and logged", ProgressFile,
+         [](SessionState& s) { SaveReviewTest(s, true, Today, LogEntry{3, 0.75F}); }},
+        {"SaveReviewTest, a new test", ProgressFile,
+         [](SessionState& s) {
+             s.SuspendedTestRecord = 0;
+             SaveReviewTest(s, false, Today);
+         }},
+        {"SaveExam, broken off", ProgressFile, [](SessionState& s) { SaveExam(s, false, Today); }},
+        {"SaveExam, finished", ProgressFile, [](SessionState& s) { SaveExam(s, true, Today); }},
+        {"AppendProgressLog", ProgressFile,
+         [](SessionState&) { AppendProgressLog(11, 0.5F, Today); }},
+        {"SavePreferences", ProgressFile,
+         [](SessionState& s) {
+             s.PassingGrade = 75;
+             SavePreferences(s);
+         }},
+        {"WriteProgressHeader", ProgressFile,
+         [](SessionState&) {
+             ProgressHeader header = ReadProgressHeader();
+             header.TakeCounts[10] = 1;
+             WriteProgressHeader(header);
+         }},
+        {"RewriteProgressFile, review card", ProgressFile, erasedOnCard},
+        {"RewriteProgressFile, exam card", ProgressFile, examsErased},
+        {"RemoveProgressRecord", ProgressFile,
+         [](SessionState& s) { RemoveProgressRecord(s, 6); }},
+        {"NoteBook save", NoteBookFile,
+         [](SessionState&) {
+             RichTextView view;
+             view.setTextRtf("{\\rtf1\\ansi Offer, acceptance and consideration.\\par }");
+             view.saveFile(QString::fromLatin1(NoteBookFile));
+         }},
+    };
+}
+
+} // namespace
+
+class CrashPointsTest : public QObject {
+    Q_OBJECT
+
+private:
+    std::unique_ptr<StudyFolder> m_folder;
+
+    void prepare(SessionState& state) {
+        m_folder.reset(); // back in the first folder before the next one is made
+        m_folder = std::make_unique<StudyFolder>();
+        std::string file;
+        for (const std::string& record : StartingRecords())
+            file += record;
+        m_folder->write(ProgressFile, file);
+        m_folder->write(NoteBookFile, "{\\rtf1\\ansi Notes.\\par }");
+        state = SessionState{};
+        FillCatalogue(state);
+        ApplyHeader(ReadProgressHeader(), state);
+        RestoreSuspended(state);
+        state.TestPosition = 3;
+        state.ExamPosition = 2;
+    }
+
+    // The files after the operation ran with the fault, the machine started again and
+    // start-up recovered the progress file.
+    std::pair<std::string, std::string> runWith(const Operation& operation,
+                                                FaultyFiles::Fault fault, int at, int* steps,
+                                                int* writes) {
+        SessionState state;
+        prepare(state);
+        {
+            FaultyFiles files(fault, at);
+            operation.run(state);
+            if (steps != nullptr)
+                *steps = files.steps();
+            if (writes != nullptr)
+                *writes = files.writes();
+        }
+        RecoverProgressFile();
+        return {m_folder->read(ProgressFile), m_folder->read(NoteBookFile)};
+    }
+
+private Q_SLOTS:
+    void everyOperationSurvivesEveryCrashPoint() {
+        int combinations = 0;
+        int crashes = 0;
+        int lost = 0;
+        int neither = 0;
+        for (const Operation& operation : Operations()) {
+            const bool notebook = std::string_view(operation.file) == NoteBookFile;
+            SessionState state;
+            prepare(state);
+            const std::string oldFile = m_folder->read(operation.file);
+            int steps = 0;
+            int writes = 0;
+            const auto clean = runWith(operation, FaultyFiles::Fault::None, 0, &steps, &writes);
+            const std::string newFile = notebook ? clean.second : clean.first;
+            QVERIFY2(newFile != oldFile, operation.name);
+
+            // Finished records the operation keeps must survive whatever strikes.
+            std::vector<std::string> kept;
+            const std::vector<std::string> after = RecordsOf(clean.first);
+            for (const std::string& record : FinishedRecords())
+                if (std::find(after.begin(), after.end(), record) != after.end())
+                    kept.push_back(record);
+
+            std::vector<std::pair<FaultyFiles::Fault, int>> faults;
+            for (int at = 1; at <= steps; ++at)
+                faults.emplace_back(FaultyFiles::Fault::Crash, at);
+            for (int at = 1; at <= writes; ++at) {
+                faults.emplace_back(FaultyFiles::Fault::ShortWrite, at);
+                faults.emplace_back(FaultyFiles::Fault::DiskFull, at);
+            }
+            for (const auto& [fault, at] : faults) {
+                const auto [progress, notes] = runWith(operation, fault, at, nullptr, nullptr);
+                const std::string& file = notebook ? notes : progress;
+                ++combinations;
+                crashes += fault == FaultyFiles::Fault::Crash ? 1 : 0;
+                if (file != oldFile && file != newFile) {
+                    ++neither;
+                    qWarning("%s: neither old nor new after fault %d at %d", operation.name,
+                             static_cast<int>(fault), at);
+                }
+                const std::vector<std::string> records = RecordsOf(progress);
+                const std::set<std::string> present(records.begin(), records.end());
+                for (const std::string& record : kept)
+                    lost += present.count(record) == 0 ? 1 : 0;
+            }
+        }
+        qInfo("crash points: %d operations, %d combinations (%d crashes, %d short writes or "
+              "full disks), records lost: %d, files neither old nor new: %d",
+              static_cast<int>(Operations().size()), combinations, crashes,
+              combinations - crashes, lost, neither);
+        QCOMPARE(lost, 0);
+        QCOMPARE(neither, 0);
+        QVERIFY(combinations > static_cast<int>(Operations().size()) * 3);
+    }
+};
+
+} // namespace tessera
+
+QTEST_MAIN(tessera::CrashPointsTest)
+#include "crash_points_test.moc"
