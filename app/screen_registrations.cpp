@@ -2,6 +2,7 @@
 
 #include "core/core_screens.h"
 #include "exam/exam_screens.h"
+#include "reports/reports_screens.h"
 #include "review/review_screens.h"
 #include "tools/tool_screens.h"
 
@@ -11,6 +12,7 @@ namespace tessera {
 void RegisterAllScreens(ScreenRegistry& registry) {
     RegisterCoreScreens(registry);
     RegisterExamScreens(registry);
+    RegisterReportScreens(registry);
     RegisterReviewScreens(registry);
     RegisterToolScreens(registry);
 }

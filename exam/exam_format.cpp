@@ -1,19 +1,6 @@
 #include "exam/exam_format.h"
 
-#include <cmath>
-#include <cstdio>
-
 namespace tessera {
-
-std::string NumberText(long value) {
-    const std::string digits = std::to_string(value);
-    return value < 0 ? digits : " " + digits;
-}
-
-std::string RightAligned(const std::string& text, int columns) {
-    const auto width = static_cast<std::size_t>(columns);
-    return text.size() >= width ? text : std::string(width - text.size(), ' ') + text;
-}
 
 std::string CountColumns(long value) {
     return RightAligned(NumberText(value), 4);
@@ -21,40 +8,6 @@ std::string CountColumns(long value) {
 
 char ChoiceLetter(int choice) {
     return choice >= 1 && choice <= 4 ? static_cast<char>('A' + choice - 1) : ' ';
-}
-
-std::string HoursMinutesSeconds(DateValue value) {
-    const long long seconds = std::llround(value * 86400.0);
-    const long long inDay = ((seconds % 86400) + 86400) % 86400;
-    char text[16];
-    std::snprintf(text, sizeof text, "%lld:%02lld:%02lld", inDay / 3600, inDay / 60 % 60,
-                  inDay % 60);
-    return text;
-}
-
-namespace {
-// One decimal of a percentage, rounded half away from zero as the masks do.
-std::string PercentDigits(double share) {
-    const double tenths = std::round(share * 1000.0);
-    char text[32];
-    std::snprintf(text, sizeof text, "%.1f", tenths / 10.0);
-    return text;
-}
-} // namespace
-
-std::string ShareText(double share) {
-    return PercentDigits(share) + "%";
-}
-
-std::string ShortShareText(double share) {
-    std::string digits = PercentDigits(share);
-    // "#" places stay empty for a leading zero: 0.0 reads ".0".
-    if (digits.starts_with("0.")) {
-        digits.erase(0, 1);
-    } else if (digits.starts_with("-0.")) {
-        digits.erase(1, 1);
-    }
-    return digits + "%";
 }
 
 } // namespace tessera

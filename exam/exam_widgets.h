@@ -1,7 +1,8 @@
 #pragma once
 // Small helpers the three exam screens share: fonts, texts, and the navigation screen's state.
 
-#include <QFont>
+#include "platform/fixed_pitch_font.h"
+
 #include <QString>
 
 #include <string>
@@ -9,9 +10,6 @@
 namespace tessera {
 
 class ScreenHost;
-
-// The fixed-pitch font in which the system shows its lists and figures.
-QFont FixedPitchFont();
 
 // A text of the system, one byte a character, for a widget.
 inline QString Text(const std::string& text) {

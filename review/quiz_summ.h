@@ -47,8 +47,6 @@ private:
     // quiz_summ_layout.cpp
     void buildControls();
     QWidget* m_heads = nullptr; // holds Label1, placed over the columns
-    QGroupBox* makeOptions(const char* caption, const char* array, const QStringList& captions,
-                           QRadioButton** options);
     void alignHeads();
 
     void FillList();

@@ -1,10 +1,10 @@
 // QuizSumm's controls: heads over the list, the list and its totals, the two frames of options
 // and the row of commands. The window scales them through its layouts.
 
+#include "platform/card_layout.h"
 #include "platform/control_names.h"
 #include "review/quiz_summ.h"
 
-#include <QFontDatabase>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -19,15 +19,7 @@ namespace tessera {
 
 namespace {
 
-// Where each head's two lines stand, in characters of the list's rows: a head is placed over
-// the figures of its column, and a long word may reach over a narrow neighbour's blanks.
-struct HeadPlace {
-    int upperStart;
-    const char* upper;
-    int lowerStart;
-    const char* lower;
-};
-constexpr std::array<HeadPlace, 8> HeadPlaces = {{
+constexpr std::array<ColumnHead, 8> HeadPlaces = {{
     {0, "", 0, "Test Type"},
     {21, "Date", 20, "Taken"},
     {26, "Percent", 26, "Correct"},
@@ -40,27 +32,7 @@ constexpr std::array<HeadPlace, 8> HeadPlaces = {{
 // Label2's figures start this many characters to the right of the rows' own.
 constexpr int TotalsIndent = 15;
 
-QFont FixedPitchFont() {
-    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    font.setStyleHint(QFont::Monospace);
-    font.setFixedPitch(true);
-    return font;
-}
-
 } // namespace
-
-QGroupBox* QuizSumm::makeOptions(const char* caption, const char* array,
-                                 const QStringList& captions, QRadioButton** options) {
-    auto* frame = new QGroupBox(QString::fromLatin1(caption));
-    auto* layout = new QVBoxLayout(frame);
-    for (int i = 0; i < captions.size(); ++i) {
-        auto* option = new QRadioButton(captions[i]);
-        NameControl(option, array, i, captions[i]);
-        layout->addWidget(option);
-        options[i] = option;
-    }
-    return frame;
-}
 
 void QuizSumm::buildControls() {
     setObjectName(QStringLiteral("QuizSumm"));
@@ -75,13 +47,7 @@ void QuizSumm::buildControls() {
     for (int i = 0; i < 8; ++i) {
         Label1[i] = new QLabel(m_heads);
         NameControl(Label1[i], "Label1", i, heads[i]);
-        Label1[i]->setFont(FixedPitchFont());
-        const HeadPlace& place = HeadPlaces[static_cast<size_t>(i)];
-        const int start = std::min(place.upperStart, place.lowerStart);
-        Label1[i]->setText(QString(place.upperStart - start, QLatin1Char(' ')) +
-                           QLatin1String(place.upper) + QLatin1Char('\n') +
-                           QString(place.lowerStart - start, QLatin1Char(' ')) +
-                           QLatin1String(place.lower));
+        SetColumnHead(Label1[i], HeadPlaces[static_cast<size_t>(i)]);
     }
 
     List1 = new QListWidget;
@@ -102,17 +68,17 @@ void QuizSumm::buildControls() {
     NameControl(label4, QStringLiteral("Label4"), label4->text());
     label4->setWordWrap(true);
 
-    Frame1 =
-        makeOptions("Sort List By:", "Option1",
-                    {QStringLiteral("Earliest &Date Taken"), QStringLiteral("&Latest Date Taken"),
-                     QStringLiteral("Percent &Correct"), QStringLiteral("&Topic Sequence"),
-                     QStringLiteral("Percent &Wild Guesses")},
-                    Option1.data());
+    Frame1 = MakeOptionFrame(QStringLiteral("Sort List By:"), "Option1",
+                             {QStringLiteral("Earliest &Date Taken"),
+                              QStringLiteral("&Latest Date Taken"),
+                              QStringLiteral("Percent &Correct"), QStringLiteral("&Topic Sequence"),
+                              QStringLiteral("Percent &Wild Guesses")},
+                             Option1);
     NameControl(Frame1, QStringLiteral("Frame1"), QStringLiteral("Sort List By"));
-    Frame2 = makeOptions("Include", "Option2",
-                         {QStringLiteral("&All Questions"), QStringLiteral("&Missed Questions"),
-                          QStringLiteral("Wild &Guesses")},
-                         Option2.data());
+    Frame2 = MakeOptionFrame(QStringLiteral("Include"), "Option2",
+                             {QStringLiteral("&All Questions"), QStringLiteral("&Missed Questions"),
+                              QStringLiteral("Wild &Guesses")},
+                             Option2);
     NameControl(Frame2, QStringLiteral("Frame2"), QStringLiteral("Include in a retake"));
     Option2[0]->setChecked(true);
     for (int i = 0; i < 5; ++i) {
@@ -157,18 +123,8 @@ void QuizSumm::buildControls() {
 
 // The heads stand over their columns in whatever size the list's font has.
 void QuizSumm::alignHeads() {
-    const QFontMetrics metrics(List1->font());
-    const int column = metrics.horizontalAdvance(QLatin1Char('0'));
-    const int inset = List1->frameWidth() + 3;
-    for (size_t i = 0; i < Label1.size(); ++i) {
-        const HeadPlace& place = HeadPlaces[i];
-        Label1[i]->setFont(List1->font());
-        Label1[i]->adjustSize();
-        Label1[i]->move(inset + std::min(place.upperStart, place.lowerStart) * column, 0);
-    }
-    m_heads->setFixedHeight(Label1[0]->sizeHint().height());
-    m_heads->setMinimumWidth(inset + 80 * column);
-    Label2->setIndent(inset + TotalsIndent * column);
+    AlignColumnHeads(m_heads, Label1, HeadPlaces, List1, 80);
+    Label2->setIndent(ColumnOffset(List1, TotalsIndent));
 }
 
 } // namespace tessera

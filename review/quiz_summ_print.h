@@ -12,7 +12,7 @@ struct ReviewCardPrint {
     QString caption;  // the window's caption
     QStringList rows; // List1's lines, in the card's order
     QString totals;   // Label2
-    QString fontName; // PrintFontName; empty keeps the printer's fixed-pitch font
+    QString fontName; // PrintFontName; empty for the system's fixed-pitch font
 };
 
 // Asks the print dialog for a table and prints the copies asked for as one job. Cancel prints

@@ -1,12 +1,12 @@
 #include "review/quiz_summ_rows.h"
 
-#include "core/gap_sort.h"
+#include "core/card_rows.h"
+#include "core/text_masks.h"
 #include "review/review_text.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
-#include <utility>
 
 namespace tessera {
 
@@ -29,16 +29,6 @@ std::string RatioText(double ratio) {
     if (shown.starts_with("0."))
         shown.erase(0, 1);
     return shown;
-}
-
-// "##,###" (zeroShows false) and "##,##0" (zeroShows true).
-std::string GroupedText(long value, bool zeroShows) {
-    if (value == 0)
-        return zeroShows ? "0" : "";
-    std::string digits = std::to_string(std::labs(value));
-    for (auto at = static_cast<long>(digits.size()) - 3; at > 0; at -= 3)
-        digits.insert(static_cast<size_t>(at), ",");
-    return value < 0 ? "-" + digits : digits;
 }
 
 std::string TypeText(uint8_t type) {
@@ -160,20 +150,13 @@ bool CardRowsStandWrong(CardSort sort, const CardRow& upper, const CardRow& lowe
 }
 
 void SortCardRows(std::vector<CardRow>& rows, CardSort sort) {
-    auto at = [&rows](int i) -> CardRow& { return rows[static_cast<size_t>(i - 1)]; };
-    GapSort(
-        static_cast<int>(rows.size()),
-        [&](int i, int j) { return CardRowsStandWrong(sort, at(i), at(j)); },
-        [&](int i, int j) { std::swap(at(i), at(j)); });
+    GapSortRows(rows, [sort](const CardRow& upper, const CardRow& lower) {
+        return CardRowsStandWrong(sort, upper, lower);
+    });
 }
 
 int EraseCardRow(std::vector<CardRow>& rows, int row) {
-    if (row < 1 || row > static_cast<int>(rows.size()))
-        return rows.empty() ? 0 : 1;
-    rows.erase(rows.begin() + (row - 1));
-    if (rows.empty())
-        return 0;
-    return row == 1 ? 1 : row - 1;
+    return EraseRowSelectingAbove(rows, row);
 }
 
 std::vector<ReviewTestRecord> KeptRecords(const std::vector<CardRow>& rows) {

@@ -1,0 +1,344 @@
+// Scoring as the candidate meets it: the rows read from the progress file, sorting, the
+// "Include" choices, erasing with the offer to save, a retake that the exam screen starts, the
+// stored results, help, and the controls' names and order.
+
+#include "core/progress_file.h"
+#include "exam/exam_session.h"
+#include "reports/scoring.h"
+#include "scoring_exam.h"
+#include "tests/exam/exam_fixture.h"
+#include "tests/support/recording_screens.h"
+#include "tests/support/study_folder.h"
+#include "tests/support/test_services.h"
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+
+#include <memory>
+
+namespace tessera {
+
+namespace {
+
+std::string Bytes(const RecordBytes& record) {
+    return {reinterpret_cast<const char*>(record.data()), record.size()};
+}
+
+std::string Slice(const std::string& file, int record) {
+    return file.substr(static_cast<size_t>((record - 1) * RecordSize), RecordSize);
+}
+
+ReviewTestRecord AReviewTest(int topic) {
+    ReviewTestRecord test;
+    test.Topic = static_cast<uint8_t>(topic);
+    test.Date = "10-10-2026";
+    test.ItemCount = 1;
+    test.Items[1] = 3;
+    return test;
+}
+
+// A custom exam of topics 2 and 7; its flag for 7 is 2, which reads as set.
+ExamRecord ACustomExam(const std::string& date) {
+    ExamRecord exam = CardExam(12, 3, date, 0.5F, {1, 7});
+    exam.Topics[2] = 1;
+    exam.Topics[7] = 2;
+    return exam;
+}
+
+} // namespace
+
+class ScoringScreenTest : public QObject {
+    Q_OBJECT
+
+private:
+    std::unique_ptr<StudyFolder> folder;
+    std::unique_ptr<TestServices> doubles;
+    SessionState state;
+    RecordingScreenHost screens;
+    std::unique_ptr<ScreenContext> context;
+    std::unique_ptr<Scoring> card;
+
+    void writeFile(const ProgressHeader& header, const std::vector<RecordBytes>& records) {
+        std::string bytes = Bytes(EncodeHeader(header));
+        for (const RecordBytes& record : records)
+            bytes += Bytes(record);
+        folder->write(ProgressFile, bytes);
+    }
+    // Records: 2 an exam of December, 3 a review test, 4 a custom exam of January, 5 an exam of
+    // November, 6 the suspended review test. By text the January exam is the earliest.
+    void writeThreeExamsAndTwoTests() {
+        ProgressHeader header;
+        header.SuspendedTestRecord = 6;
+        state.SuspendedTestRecord = 6;
+        writeFile(header, {EncodeExam(CardExam(10, 1, "12-20-2026", 0.875F, {1, 2, 3, 9}, 1)),
+                           EncodeReviewTest(AReviewTest(3)), EncodeExam(ACustomExam("01-05-2027")),
+                           EncodeExam(CardExam(11, 2, "11-02-2026", 0.6F, {69, 6, 0, 2, 64}, 3)),
+                           EncodeReviewTest(AReviewTest(5))});
+    }
+    void open() {
+        card = std::make_unique<Scoring>(*context);
+        card->show();
+    }
+    QStringList rows() const {
+        QStringList texts;
+        for (int i = 0; i < card->List1->count(); ++i)
+            texts << card->List1->item(i)->text();
+        return texts;
+    }
+    void click(QAbstractButton* button) {
+        QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(6, button->height() / 2));
+    }
+    void select(int row) { card->List1->setCurrentRow(row - 1); }
+
+private Q_SLOTS:
+    void init() {
+        folder = std::make_unique<StudyFolder>();
+        doubles = std::make_unique<TestServices>();
+        state = SessionState{};
+        testing::MakeCourse(state, {4, 3, 5, 2, 2, 2, 2, 2, 3}, {6, 5});
+        screens.clearCalls();
+        context = std::make_unique<ScreenContext>(ScreenContext{state, doubles->services, screens});
+    }
+    void cleanup() {
+        card.reset();
+        folder.reset();
+    }
+
+    void listsEveryExamEarliestByTextAndSortsKeepingTheSelection() {
+        writeThreeExamsAndTwoTests();
+        open();
+        QCOMPARE(card->windowTitle(), QStringLiteral("Screening Exam Report Card"));
+        QCOMPARE(rows().size(), 3);
+        QVERIFY(rows()[0].startsWith(QStringLiteral("Custom        01-05-2027  50.0%")));
+        QVERIFY(rows()[1].startsWith(QStringLiteral("Exam II       11-02-2026  60.0%")));
+        QVERIFY(rows()[2].startsWith(QStringLiteral("Exam I        12-20-2026  87.5%")));
+        QVERIFY(card->Option1[0]->isChecked());
+        QVERIFY(card->Option2[0]->isChecked());
+        QCOMPARE(card->List1->currentRow(), 0);
+        QCOMPARE(card->Label1[8]->text(), QStringLiteral("Topics Covered:  2, 7"));
+        QCOMPARE(card->Label1[10]->text(),
+                 QStringLiteral("Total:       72.7%     11       10        2 "
+                                "             585  04:31:30"));
+        click(card->Option1[1]); // latest first: the custom exam goes last and stays selected
+        QVERIFY(rows()[0].contains(QStringLiteral("12-20-2026")));
+        QCOMPARE(card->List1->currentRow(), 2);
+        select(1);
+        click(card->Option1[3]); // questions asked: the five-item exam first
+        QVERIFY(rows()[0].contains(QStringLiteral("11-02-2026")));
+        QCOMPARE(card->List1->currentRow(), 1);
+        QCOMPARE(card->Label1[8]->text(), QStringLiteral("Topics Covered: "));
+    }
+
+    void anEmptyCardOffersOnlyDoneAndHelp() {
+        open();
+        QCOMPARE(card->List1->count(), 0);
+        QCOMPARE(card->Label1[10]->text(), QStringLiteral("Total:"));
+        QCOMPARE(card->Label1[8]->text(), QStringLiteral("Topics Covered: "));
+        for (int i : {0, 1, 4, 5})
+            QVERIFY(!card->Command1[i]->isEnabled());
+        QVERIFY(!card->Frame1->isEnabled());
+        QVERIFY(!card->Frame2->isEnabled());
+        QVERIFY(card->Command1[2]->isEnabled());
+        QVERIFY(card->Command1[3]->isEnabled());
+    }
+
+    void includeChoicesFollowTheSelectedRow() {
+        writeFile(ProgressHeader{}, {EncodeExam(CardExam(10, 1, "01-01-2027", 1.0F, {1, 2})),
+                                     EncodeExam(CardExam(10, 1, "01-02-2027", 0.5F, {1, 64}))});
+        open();
+        QVERIFY(card->Option2[0]->isEnabled());
+        QVERIFY(!card->Option2[1]->isEnabled());
+        QVERIFY(!card->Option2[2]->isEnabled());
+        select(2);
+        click(card->Option2[1]);
+        QVERIFY(card->Command1[4]->isEnabled());
+        select(1); // 100%: "Missed Questions" stays chosen but blocked
+        QVERIFY(card->Option2[1]->isChecked());
+        QVERIFY(!card->Command1[4]->isEnabled());
+        click(card->Option2[0]);
+        QVERIFY(card->Command1[4]->isEnabled());
+        // After three takes of exam I, whose full length is here 2, all of it is not offered again.
+        state.TakeCounts[10] = 3;
+        state.content.ItemCounts[1][2] = 2;
+        select(2);
+        QVERIFY(!card->Option2[0]->isEnabled());
+        QVERIFY(card->Option2[1]->isEnabled());
+    }
+
+    void erasing_data() {
+        QTest::addColumn<bool>("save");
+        QTest::newRow("Yes") << true;
+        QTest::newRow("No") << false;
+    }
+    void erasing() {
+        QFETCH(bool, save);
+        writeThreeExamsAndTwoTests();
+        const std::string before = folder->read(ProgressFile);
+        open();
+        click(card->Command1[1]); // the January custom exam
+        QCOMPARE(card->List1->currentRow(), 0);
+        QVERIFY(rows()[0].contains(QStringLiteral("11-02-2026")));
+        QVERIFY(doubles->dialogs.messages().empty()); // nothing asked yet
+        QCOMPARE(folder->read(ProgressFile), before);
+        doubles->dialogs.answer(save ? MessageAnswer::Yes : MessageAnswer::No);
+        click(card->Command1[2]);
+
+        QCOMPARE(doubles->dialogs.messages().size(), size_t{1});
+        const ShownMessage& asked = doubles->dialogs.messages()[0];
+        QCOMPARE(asked.text, QStringLiteral("Save Changes to Report Card?"));
+        QCOMPARE(asked.title, QStringLiteral("Exam Data Erased!"));
+        QCOMPARE(asked.icon, MessageIcon::Exclamation);
+        QCOMPARE(asked.buttons, MessageButtons::YesNo);
+        QVERIFY(
+            (screens.calls().back() == ScreenCall{ScreenCallKind::Unload, ScreenName::Scoring}));
+        if (!save) {
+            QVERIFY(folder->read(ProgressFile) == before);
+            QCOMPARE(state.SuspendedTestRecord, int16_t{6});
+            return;
+        }
+        // The exams in the card's order, then the review tests in their old order; the
+        // suspended one moves from record 6 to 2 + 2 + 1.
+        std::string header = Slice(before, 1);
+        header[5] = 5;
+        const std::string after =
+            header + Slice(before, 5) + Slice(before, 2) + Slice(before, 3) + Slice(before, 6);
+        QVERIFY(folder->read(ProgressFile) == after);
+        QCOMPARE(state.SuspendedTestRecord, int16_t{5});
+    }
+
+    void erasedTopicFlagsAreWrittenAsExactlyOne() {
+        writeFile(ProgressHeader{}, {EncodeExam(ACustomExam("01-05-2027")),
+                                     EncodeExam(CardExam(10, 1, "01-06-2027", 0.5F, {1}))});
+        open();
+        select(2);
+        click(card->Command1[1]);
+        doubles->dialogs.answer(MessageAnswer::Yes);
+        click(card->Command1[2]);
+        const auto exams = ReadExamRecords();
+        QCOMPARE(exams.size(), size_t{1});
+        QCOMPARE(exams[0].Topics, (std::array<uint8_t, 10>{0, 0, 1, 0, 0, 0, 0, 1, 0, 0}));
+    }
+
+    void retake_data() {
+        QTest::addColumn<int>("choice");
+        QTest::addColumn<int>("type");
+        QTest::addColumn<QList<int>>("items");
+        // Exam II's items 3 to 7: wrong and unsure, wrong, none, right, right and unsure.
+        QTest::newRow("all") << 0 << 4 << QList<int>{3, 4, 5, 6, 7};
+        QTest::newRow("missed") << 1 << 5 << QList<int>{3, 4, 5};
+        QTest::newRow("unsure") << 2 << 6 << QList<int>{3, 7};
+    }
+    void retake() {
+        QFETCH(int, choice);
+        QFETCH(int, type);
+        QFETCH(QList<int>, items);
+        writeThreeExamsAndTwoTests();
+        state.ExamMinutes = 30;
+        open();
+        select(2);
+        click(card->Option2[choice]);
+        click(card->Command1[4]);
+
+        const std::vector<ScreenCall> expected = {{ScreenCallKind::Unload, ScreenName::Scoring},
+                                                  {ScreenCallKind::Unload, ScreenName::ExamTest},
+                                                  {ScreenCallKind::Show, ScreenName::ExamTest}};
+        QVERIFY(screens.calls() == expected);
+        QVERIFY(doubles->dialogs.messages().empty());
+        QCOMPARE(state.ExamType, int16_t(type));
+        QCOMPARE(state.ExamMinutes, int16_t{195});
+        // The exam screen opens it as a new exam of these items, in this order.
+        ExamSession session(state, doubles->clock, doubles->random);
+        session.open();
+        QCOMPARE(session.list(1).rows(), int(items.size()));
+        for (int p = 1; p <= items.size(); ++p)
+            QCOMPARE(int(state.ExamItems[static_cast<size_t>(p)]), items[p - 1]);
+        QCOMPARE(QString::fromStdString(session.windowCaption()),
+                 QStringLiteral("Screening Exam II, Item 1 of %1").arg(items.size()));
+        QVERIFY(session.itemRtf().find("Question 1.3") != std::string::npos); // item 3 first
+    }
+
+    void viewResultsPutsTheStoredExamBackAndOpensResults() {
+        writeThreeExamsAndTwoTests();
+        open();
+        click(card->Command1[1]); // an erasure is offered for saving first
+        doubles->dialogs.answer(MessageAnswer::No);
+        select(2); // exam I of December
+        click(card->Command1[5]);
+        QCOMPARE(doubles->dialogs.messages().size(), size_t{1});
+        const std::vector<ScreenCall> expected = {{ScreenCallKind::Unload, ScreenName::Scoring},
+                                                  {ScreenCallKind::Unload, ScreenName::Results},
+                                                  {ScreenCallKind::Show, ScreenName::Results}};
+        QVERIFY(screens.calls() == expected);
+        QCOMPARE(state.ExamKind, int16_t{1});
+        QCOMPARE(state.ExamItemCount, int16_t{4});
+        QCOMPARE(state.ExamAnswers[4], int16_t{4});
+    }
+
+    void helpOpensTopicThirteen() {
+        open();
+        click(card->Command1[3]);
+        QCOMPARE(state.HelpTopic, int16_t{13});
+        const std::vector<ScreenCall> expected = {{ScreenCallKind::Unload, ScreenName::Help},
+                                                  {ScreenCallKind::Show, ScreenName::Help}};
+        QVERIFY(screens.calls() == expected);
+    }
+
+    void printingTakesTheListInItsOrderAndKeepsTheSelection() {
+        writeThreeExamsAndTwoTests();
+        state.PrintFontName = "Courier New";
+        open();
+        select(2);
+        click(card->Command1[0]);
+        const std::vector<QString> page = doubles->printer.pageText(1);
+        QCOMPARE(page.size(), size_t{6 + 3 + 2 + 2});
+        QCOMPARE(page[6], rows()[0]);
+        QCOMPARE(page[7], QStringLiteral("          Topics Covered:  2, 7"));
+        QCOMPARE(page[9], rows()[1]);
+        QCOMPARE(page.back(), QString(13, QLatin1Char(' ')) + card->Label1[10]->text());
+        QCOMPARE(card->List1->currentRow(), 1);
+        state.PrinterProblem = true;
+        open();
+        QVERIFY(!card->Command1[0]->isEnabled());
+    }
+
+    void everyControlIsNamedAndTabFollowsTheScreen() {
+        writeThreeExamsAndTwoTests();
+        open();
+        QString letters;
+        for (auto* button : card->findChildren<QAbstractButton*>()) {
+            QCOMPARE(button->accessibleName(), QString(button->text()).remove(QLatin1Char('&')));
+            const qsizetype amp = button->text().indexOf(QLatin1Char('&'));
+            QVERIFY2(amp >= 0, qPrintable(button->text()));
+            const QChar letter = button->text().at(amp + 1).toLower();
+            QVERIFY2(!letters.contains(letter), qPrintable(button->text()));
+            letters += letter;
+        }
+        for (QLabel* label : card->Label1)
+            QVERIFY(!label->accessibleName().isEmpty());
+        QCOMPARE(card->Label1[11]->objectName(), QStringLiteral("Label1_11"));
+        QStringList chain;
+        QWidget* at = card->List1;
+        do {
+            if (at->focusPolicy() & Qt::TabFocus)
+                chain << at->objectName();
+            at = at->nextInFocusChain();
+        } while (at != card->List1);
+        QCOMPARE(chain, QStringList({QStringLiteral("List1"), QStringLiteral("Option1_0"),
+                                     QStringLiteral("Option1_1"), QStringLiteral("Option1_2"),
+                                     QStringLiteral("Option1_3"), QStringLiteral("Option1_4"),
+                                     QStringLiteral("Option2_0"), QStringLiteral("Option2_1"),
+                                     QStringLiteral("Option2_2"), QStringLiteral("Command1_5"),
+                                     QStringLiteral("Command1_4"), QStringLiteral("Command1_1"),
+                                     QStringLiteral("Command1_0"), QStringLiteral("Command1_3"),
+                                     QStringLiteral("Command1_2")}));
+    }
+};
+
+} // namespace tessera
+
+QTEST_MAIN(tessera::ScoringScreenTest)
+#include "scoring_screen_test.moc"
