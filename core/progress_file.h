@@ -64,12 +64,15 @@ bool SavePreferences(const SessionState& state);
 
 // Rewrites the file after a report card erased rows: the header, then the card's records in
 // the card's order, then the records of the other kind in their old order. The suspended
-// record of the other kind follows its record, in the session and in the header.
-SaveStatus RewriteProgressFile(SessionState& state, const std::vector<ReviewTestRecord>& kept);
-SaveStatus RewriteProgressFile(SessionState& state, const std::vector<ExamRecord>& kept);
+// record of the other kind follows its record, in the session and in the header. The file as
+// it stood goes to the Backups folder first, named by `now`.
+SaveStatus RewriteProgressFile(SessionState& state, const std::vector<ReviewTestRecord>& kept,
+                               DateValue now);
+SaveStatus RewriteProgressFile(SessionState& state, const std::vector<ExamRecord>& kept,
+                               DateValue now);
 
-// Takes one record out; suspended records behind it move up by one.
-SaveStatus RemoveProgressRecord(SessionState& state, int recordNumber);
+// Takes one record out, after a backup as a rewrite; suspended records behind it move up by one.
+SaveStatus RemoveProgressRecord(SessionState& state, int recordNumber, DateValue now);
 
 // Reads: a missing or short file reads as zeros, so a missing file is a first run.
 ProgressHeader ReadProgressHeader();

@@ -1,7 +1,8 @@
-// The operations that take records out of the progress file. Each writes NewConfig completely,
-// flushes it to the disk and renames it over TesseraConfig.MS, so a crash at any moment leaves
-// either the old file or the new one.
+// The operations that take records out of the progress file. Each backs the file up, writes
+// NewConfig completely, flushes it to the disk and renames it over TesseraConfig.MS, so a crash
+// at any moment leaves either the old file or the new one.
 
+#include "core/progress_backups.h"
 #include "core/progress_file.h"
 #include "core/progress_file_detail.h"
 #include "core/progress_image.h"
@@ -67,19 +68,24 @@ int16_t AfterRemoval(int16_t suspended, int removed) {
 
 } // namespace
 
-SaveStatus RewriteProgressFile(SessionState& state, const std::vector<ReviewTestRecord>& kept) {
+SaveStatus RewriteProgressFile(SessionState& state, const std::vector<ReviewTestRecord>& kept,
+                               DateValue now) {
+    BackupProgressFile(now);
     return Rewrite(state, kept, false);
 }
 
-SaveStatus RewriteProgressFile(SessionState& state, const std::vector<ExamRecord>& kept) {
+SaveStatus RewriteProgressFile(SessionState& state, const std::vector<ExamRecord>& kept,
+                               DateValue now) {
+    BackupProgressFile(now);
     return Rewrite(state, kept, true);
 }
 
-SaveStatus RemoveProgressRecord(SessionState& state, int recordNumber) {
+SaveStatus RemoveProgressRecord(SessionState& state, int recordNumber, DateValue now) {
     const ProgressImage old = ProgressImage::load();
     const int count = old.recordCount();
     if (recordNumber < 2 || recordNumber > count)
         return SaveStatus::Saved;
+    BackupProgressFile(now);
     ProgressImage fresh;
     int written = 0;
     for (int n = 1; n <= count; ++n)

@@ -2,8 +2,10 @@
 
 #include "core/content_file.h"
 #include "core/new_notebook.h"
+#include "core/progress_backups.h"
 #include "core/progress_file.h"
 #include "core/progress_image.h"
+#include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/file_system.h"
 #include "platform/printer.h"
@@ -83,16 +85,19 @@ StartUpOutcome StartUp::beforeTitle() {
     RecoverProgressFile();
     if (!Files().exists(ProgressFile))
         ProgressImage().commit(); // an empty file: a first run
-    const ProgressHeader header = ReadProgressHeader();
 
     if (!markRunning())
         return StartUpOutcome::Ended;
-    if (header.isFirstRun()) {
+    const bool damaged = offerBackupIfDamaged();
+    if (!damaged && ReadProgressHeader().isFirstRun()) {
         if (!firstRun())
             return StartUpOutcome::Ended;
     }
     ApplyHeader(ReadProgressHeader(), m_state);
     RestoreSuspended(m_state);
+    // A damaged file is not copied over the good backups.
+    if (!damaged)
+        BackupOnFirstStartOfDay(m_services.clock.now());
     return StartUpOutcome::Ready;
 }
 
@@ -138,6 +143,38 @@ bool StartUp::markRunning() {
         m_createdMarker = true;
         return std::nullopt;
     });
+}
+
+bool StartUp::offerBackupIfDamaged() {
+    if (!ProgressFileDamaged(Files().read(ProgressFile).value_or(std::string())))
+        return false;
+    Dialogs& dialogs = m_services.dialogs;
+    const QString title = QStringLiteral("Damaged File Detected!");
+    const QString damaged = QStringLiteral("Your progress file TesseraConfig.MS is damaged.");
+    const std::string backup = NewestGoodBackup();
+    if (backup.empty()) {
+        dialogs.message(damaged + QLatin1String(CrLf) +
+                            QStringLiteral("No good backup of it was found in the Backups "
+                                           "folder. The program will use what it can read."),
+                        title, MessageIcon::Exclamation, MessageButtons::Ok);
+        return true;
+    }
+    const QString offer =
+        QStringList{damaged,
+                    QStringLiteral("The newest good backup is ") + QString::fromStdString(backup) +
+                        QLatin1Char('.'),
+                    QStringLiteral("Press Yes to restore it. No to keep the damaged file.")}
+            .join(QLatin1String(CrLf));
+    if (dialogs.message(offer, title, MessageIcon::Exclamation, MessageButtons::YesNo) !=
+        MessageAnswer::Yes)
+        return true;
+    if (RestoreBackup(backup))
+        return false;
+    dialogs.message(QStringLiteral("The backup could not be restored. Make sure the study folder "
+                                   "can be written to and has room, then start the program "
+                                   "again."),
+                    title, MessageIcon::Critical, MessageButtons::Ok);
+    return true;
 }
 
 std::optional<std::string> StartUp::askUserName() {

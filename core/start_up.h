@@ -48,6 +48,9 @@ private:
 
     bool contentFilePresent();
     bool markRunning();
+    // Says that the progress file is damaged and offers the newest good backup; true while the
+    // damaged file stays.
+    bool offerBackupIfDamaged();
     std::optional<std::string> askUserName();
     bool firstRun();
     std::optional<StartUpError> writeFirstHeader(const std::string& name);

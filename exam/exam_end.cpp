@@ -57,7 +57,7 @@ ExamEndOutcome EndExam(SessionState& state, bool finished, int committedRows, Da
         AppendProgressLog(counter, state.ExamScore, today);
     }
     if (plan.remove) {
-        RemoveProgressRecord(state, save.recordNumber);
+        RemoveProgressRecord(state, save.recordNumber, today);
         outcome.removed = true;
         dialogs.message(
             QString::fromStdString("You answered " + ShortShareText(state.ExamScore) +

@@ -1,6 +1,7 @@
 #include "review/quiz_summ.h"
 
 #include "core/progress_file.h"
+#include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "review/quiz_summ_print.h"
 
@@ -161,7 +162,7 @@ void QuizSumm::OfferToSave() {
         QStringLiteral("Save Changes to Report Card?"), QStringLiteral("Data Erased!"),
         MessageIcon::Exclamation, MessageButtons::YesNo);
     if (answer == MessageAnswer::Yes)
-        RewriteProgressFile(m_context.state, KeptRecords(m_rows));
+        RewriteProgressFile(m_context.state, KeptRecords(m_rows), m_context.services.clock.now());
 }
 
 void QuizSumm::Retake() {

@@ -61,8 +61,8 @@ std::vector<std::string> StartingRecords() {
     header.PassingGrade = 70;
     header.SuspendedTestRecord = 5;
     header.SuspendedExamRecord = 7;
-    return {Bytes(EncodeHeader(header)),    Bytes(EncodeReviewTest(Test(1, 0))),
-            Bytes(EncodeExam(Exam(1, 0))),  Bytes(EncodeReviewTest(Test(2, 0))),
+    return {Bytes(EncodeHeader(header)),         Bytes(EncodeReviewTest(Test(1, 0))),
+            Bytes(EncodeExam(Exam(1, 0))),       Bytes(EncodeReviewTest(Test(2, 0))),
             Bytes(EncodeReviewTest(Test(3, 2))), Bytes(EncodeExam(Exam(2, 0))),
             Bytes(EncodeExam(Exam(3, 1)))};
 }
@@ -88,16 +88,18 @@ struct Operation {
 
 std::vector<Operation> Operations() {
     const auto erasedOnCard = [](SessionState& state) {
-        RewriteProgressFile(state, std::vector<ReviewTestRecord>{Test(2, 0)});
+        RewriteProgressFile(state, std::vector<ReviewTestRecord>{Test(2, 0)}, Today);
     };
     const auto examsErased = [](SessionState& state) {
-        RewriteProgressFile(state, std::vector<ExamRecord>{Exam(2, 0), Exam(1, 0)});
+        RewriteProgressFile(state, std::vector<ExamRecord>{Exam(2, 0), Exam(1, 0)}, Today);
     };
     return {
         {"SaveReviewTest, broken off", ProgressFile,
          [](SessionState& s) { SaveReviewTest(s, false, Today); }},
         {"SaveReviewTest, finished and logged", ProgressFile,
-         [](SessionState& s) { SaveReviewTest(s, true, Today, LogEntry{3, 0.75F}); }},
+         [](SessionState& s) {
+             SaveReviewTest(s, true, Today, LogEntry{3, 0.75F});
+         }},
         {"SaveReviewTest, a new test", ProgressFile,
          [](SessionState& s) {
              s.SuspendedTestRecord = 0;
@@ -121,7 +123,7 @@ std::vector<Operation> Operations() {
         {"RewriteProgressFile, review card", ProgressFile, erasedOnCard},
         {"RewriteProgressFile, exam card", ProgressFile, examsErased},
         {"RemoveProgressRecord", ProgressFile,
-         [](SessionState& s) { RemoveProgressRecord(s, 6); }},
+         [](SessionState& s) { RemoveProgressRecord(s, 6, Today); }},
         {"NoteBook save", NoteBookFile,
          [](SessionState&) {
              RichTextView view;
@@ -157,9 +159,8 @@ private:
 
     // The files after the operation ran with the fault, the machine started again and
     // start-up recovered the progress file.
-    std::pair<std::string, std::string> runWith(const Operation& operation,
-                                                FaultyFiles::Fault fault, int at, int* steps,
-                                                int* writes) {
+    std::pair<std::string, std::string>
+    runWith(const Operation& operation, FaultyFiles::Fault fault, int at, int* steps, int* writes) {
         SessionState state;
         prepare(state);
         {
@@ -223,8 +224,8 @@ private Q_SLOTS:
         }
         qInfo("crash points: %d operations, %d combinations (%d crashes, %d short writes or "
               "full disks), records lost: %d, files neither old nor new: %d",
-              static_cast<int>(Operations().size()), combinations, crashes,
-              combinations - crashes, lost, neither);
+              static_cast<int>(Operations().size()), combinations, crashes, combinations - crashes,
+              lost, neither);
         QCOMPARE(lost, 0);
         QCOMPARE(neither, 0);
         QVERIFY(combinations > static_cast<int>(Operations().size()) * 3);

@@ -164,7 +164,7 @@ TEST_F(ProgressFileTest, ExamCardRewriteMovesTheSuspendedTestAlong) {
     state.SuspendedTestRecord = 4;
 
     // The card kept only the custom exam: it comes first, the two tests follow.
-    ASSERT_EQ(RewriteProgressFile(state, std::vector<ExamRecord>{ExamOfKind(3)}),
+    ASSERT_EQ(RewriteProgressFile(state, std::vector<ExamRecord>{ExamOfKind(3)}, today),
               SaveStatus::Saved);
     Bytes expected;
     h.SuspendedTestRecord = 4; // 1 kept + ordinal 2 + 1
@@ -174,7 +174,7 @@ TEST_F(ProgressFileTest, ExamCardRewriteMovesTheSuspendedTestAlong) {
     Append(expected, EncodeReviewTest(TestOfTopic(5)));
     EXPECT_EQ(ReadFile(ProgressFile), expected);
 
-    ASSERT_EQ(RewriteProgressFile(state, std::vector<ExamRecord>{}), SaveStatus::Saved);
+    ASSERT_EQ(RewriteProgressFile(state, std::vector<ExamRecord>{}, today), SaveStatus::Saved);
     const Bytes after = ReadFile(ProgressFile);
     ASSERT_EQ(after.size(), 3u * RecordSize);
     EXPECT_EQ(state.SuspendedTestRecord, 3);
@@ -195,7 +195,7 @@ TEST_F(ProgressFileTest, ReviewCardRewriteAndRemovalMoveTheSuspendedExam) {
     state.SuspendedExamRecord = 3;
 
     const std::vector<ReviewTestRecord> kept{TestOfTopic(4), TestOfTopic(7), TestOfTopic(1)};
-    ASSERT_EQ(RewriteProgressFile(state, kept), SaveStatus::Saved);
+    ASSERT_EQ(RewriteProgressFile(state, kept, today), SaveStatus::Saved);
     Bytes after = ReadFile(ProgressFile);
     EXPECT_EQ(state.SuspendedExamRecord, 5);
     EXPECT_EQ(after[6], 5);
@@ -203,7 +203,7 @@ TEST_F(ProgressFileTest, ReviewCardRewriteAndRemovalMoveTheSuspendedExam) {
     EXPECT_EQ(Record(after, 2)[0], 4);
     EXPECT_EQ(Record(after, 5), Record(file, 3));
 
-    ASSERT_EQ(RemoveProgressRecord(state, 3), SaveStatus::Saved);
+    ASSERT_EQ(RemoveProgressRecord(state, 3, today), SaveStatus::Saved);
     after = ReadFile(ProgressFile);
     ASSERT_EQ(after.size(), 4u * RecordSize);
     EXPECT_EQ(state.SuspendedExamRecord, 4);
@@ -228,7 +228,7 @@ TEST_F(ProgressFileTest, ATestBeyondRecord255IsSavedAndKeptForThisRun) {
     EXPECT_EQ(ReadFile(ProgressFile).size(), 256u * RecordSize);
 
     // Taking one record out brings it within reach of the header again.
-    ASSERT_EQ(RemoveProgressRecord(state, 2), SaveStatus::Saved);
+    ASSERT_EQ(RemoveProgressRecord(state, 2, today), SaveStatus::Saved);
     EXPECT_EQ(state.SuspendedTestRecord, 255);
     EXPECT_EQ(ReadFile(ProgressFile)[5], 255);
 }

@@ -1,6 +1,7 @@
-// Start-up paths answered by script, and what each leaves in the study folder.
+// Start-up paths answered by script, and what each leaves in the study folder, backups too.
 
 #include "core/new_notebook.h"
+#include "core/progress_backups.h"
 #include "core/progress_file.h"
 #include "core/records.h"
 #include "core/start_up.h"
@@ -16,6 +17,27 @@ namespace {
 const std::string Marker = "TesseraAppRunning";
 const std::string NoteBook = "TesseraNoteBook.RTF";
 const std::string Progress = "TesseraConfig.MS";
+
+std::string HeaderFile(int passingGrade, int logCode = 0) {
+    ProgressHeader header;
+    header.UserName = std::string("Pat Doe").append(23, ' ');
+    header.PassingGrade = static_cast<uint8_t>(passingGrade);
+    if (logCode != 0) {
+        header.LogDates[1] = "11-18-2026";
+        header.LogCodes[1] = static_cast<uint8_t>(logCode);
+    }
+    const RecordBytes bytes = EncodeHeader(header);
+    return {bytes.begin(), bytes.end()};
+}
+
+std::vector<std::string> BackupsIn(const StudyFolder& folder) {
+    std::vector<std::string> names;
+    std::error_code absent;
+    for (const auto& entry : std::filesystem::directory_iterator(folder.path() / "Backups", absent))
+        names.push_back(entry.path().filename().string());
+    std::sort(names.begin(), names.end());
+    return names;
+}
 
 class StartUpTest : public testing::Test {
 protected:
@@ -281,5 +303,94 @@ TEST(PrintFont, TheLastOfTheFourFoundInTheJoinedNamesWins) {
 TEST(NoteBookName, RichTextCharactersOfTheNameAreEscaped) {
     EXPECT_EQ(RtfEscaped("Pat {Doe}\\ \xe9"), "Pat \\{Doe\\}\\\\ \\'e9");
 }
+
+// Backups: when they are taken, how many stay, and the offer of the newest good one when
+// the progress file is damaged.
+TEST_F(StartUpTest, FirstStartOfADayAndEveryRewriteKeepTheNewestTen) {
+    folder.write(Progress, HeaderFile(70, 1));
+    ASSERT_EQ(start(), StartUpOutcome::Ready);
+    folder.write("TesseraAppRunning", "");
+    doubles.dialogs.answer(MessageAnswer::Ok);
+    doubles.clock.advanceSeconds(3600);
+    ASSERT_EQ(start(), StartUpOutcome::Ready); // the same day: no second backup
+    EXPECT_EQ(BackupsIn(folder), std::vector<std::string>{"TesseraConfig 2026-11-19 09-00-00.MS"});
+    EXPECT_EQ(folder.read("Backups/TesseraConfig 2026-11-19 09-00-00.MS"), HeaderFile(70, 1));
+
+    for (int minute = 1; minute <= 11; ++minute) {
+        doubles.clock.setDateTime(2026, 11, 20, 8, minute, 0);
+        ASSERT_EQ(RewriteProgressFile(state, std::vector<ExamRecord>{}, doubles.clock.now()),
+                  SaveStatus::Saved);
+    }
+    const std::vector<std::string> kept = BackupsIn(folder);
+    ASSERT_EQ(kept.size(), size_t{10});
+    EXPECT_EQ(kept.front(), "TesseraConfig 2026-11-20 08-02-00.MS");
+    EXPECT_EQ(kept.back(), "TesseraConfig 2026-11-20 08-11-00.MS");
+}
+
+struct DamagedCase {
+    const char* name;
+    std::string progress;
+    std::vector<std::pair<const char*, std::string>> backups; // oldest first
+    MessageAnswer answer;
+    std::string text;     // of the one message
+    std::string restored; // the progress file afterwards; empty: left as it was
+};
+
+class DamagedFileTest : public StartUpTest, public testing::WithParamInterface<DamagedCase> {};
+
+TEST_P(DamagedFileTest, SaysSoAndOffersTheNewestGoodBackup) {
+    const DamagedCase& c = GetParam();
+    folder.write(Progress, c.progress);
+    std::filesystem::create_directory(folder.path() / "Backups");
+    for (const auto& [stamp, bytes] : c.backups)
+        folder.write(std::string("Backups/TesseraConfig ") + stamp + ".MS", bytes);
+    const std::vector<std::string> before = BackupsIn(folder);
+    doubles.dialogs.answer(c.answer);
+
+    ASSERT_EQ(start(), StartUpOutcome::Ready);
+    ASSERT_EQ(doubles.dialogs.messages().size(), size_t{1});
+    const ShownMessage& told = doubles.dialogs.messages().front();
+    EXPECT_EQ(told.title, QStringLiteral("Damaged File Detected!"));
+    EXPECT_EQ(told.icon, MessageIcon::Exclamation);
+    EXPECT_EQ(told.text.toStdString(), c.text);
+    EXPECT_EQ(folder.read(Progress), c.restored.empty() ? c.progress : c.restored);
+    if (c.restored.empty()) {
+        EXPECT_EQ(BackupsIn(folder), before) << "no backup is taken of a damaged file";
+    }
+}
+
+const std::string Damaged = "Your progress file TesseraConfig.MS is damaged.\r\n";
+const std::string Offer = "Press Yes to restore it. No to keep the damaged file.";
+
+INSTANTIATE_TEST_SUITE_P(
+    Cases, DamagedFileTest,
+    testing::Values(
+        DamagedCase{
+            "OddLengthRestored",
+            HeaderFile(70) + "cut",
+            {{"2026-11-17 10-00-00", HeaderFile(60)}, {"2026-11-18 10-00-00", HeaderFile(65)}},
+            MessageAnswer::Yes,
+            Damaged +
+                "The newest good backup is Backups/TesseraConfig 2026-11-18 "
+                "10-00-00.MS.\r\n" +
+                Offer,
+            HeaderFile(65)},
+        DamagedCase{"ImpossibleLogDeclined",
+                    HeaderFile(70, 40),
+                    {{"2026-11-17 10-00-00", HeaderFile(60)}, {"2026-11-18 10-00-00", "cut"}},
+                    MessageAnswer::No,
+                    Damaged +
+                        "The newest good backup is Backups/TesseraConfig 2026-11-17 "
+                        "10-00-00.MS.\r\n" +
+                        Offer,
+                    ""},
+        DamagedCase{"GradeOverAHundredWithoutBackups",
+                    HeaderFile(170),
+                    {},
+                    MessageAnswer::Ok,
+                    Damaged + "No good backup of it was found in the Backups folder. The "
+                              "program will use what it can read.",
+                    ""}),
+    [](const testing::TestParamInfo<DamagedCase>& info) { return info.param.name; });
 
 } // namespace
