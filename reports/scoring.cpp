@@ -2,6 +2,7 @@
 
 #include "core/progress_file.h"
 #include "platform/card_print.h"
+#include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/windows1252.h"
 #include "reports/scoring_print.h"
@@ -160,7 +161,8 @@ void Scoring::SaveChanges() {
                                                  MessageIcon::Exclamation, MessageButtons::YesNo);
     if (answer != MessageAnswer::Yes)
         return;
-    if (RewriteProgressFile(m_context.state, KeptExamRecords(m_rows)) == SaveStatus::FileFailed)
+    if (RewriteProgressFile(m_context.state, KeptExamRecords(m_rows),
+                            m_context.services.clock.now()) == SaveStatus::FileFailed)
         dialogs.message(QStringLiteral("The report card could not be saved; the progress file "
                                        "keeps the exams it had."),
                         QStringLiteral("Report Card Not Saved"), MessageIcon::Critical,
