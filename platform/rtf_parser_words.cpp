@@ -259,7 +259,7 @@ void RtfParser::applyWord(RtfWord word, bool hasParameter, int parameter) {
                 m_fontName += QChar(char16_t(unit));
             else if (m_state.destination == Destination::LevelText)
                 m_lists.addLevelText(char16_t(unit));
-            else
+            else if (unit >= 0x20 || unit == '\t') // control characters, as in byte()
                 character(char16_t(unit));
         }
         m_charsToSkip = m_state.unicodeSkip;

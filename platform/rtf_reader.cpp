@@ -18,6 +18,8 @@ void readPlainText(std::string_view text, QTextDocument& document) {
     QString plain = fromWindows1252(text);
     plain.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     plain.replace(QChar(u'\r'), QChar(u'\n'));
+    // Other control characters are dropped, as in rich text, so that a save keeps what shows.
+    plain.removeIf([](QChar ch) { return ch < QChar(u' ') && ch != u'\n' && ch != u'\t'; });
     QTextCursor(&document).insertText(plain);
 }
 
