@@ -2,6 +2,7 @@
 
 #include "core/content_format.h"
 
+#include <filesystem>
 #include <fstream>
 
 namespace tessera {
@@ -180,11 +181,18 @@ private:
     CourseContent& m_content;
 };
 
+// A folder opens like a file, but its length is no length of text.
+bool Readable(const std::string& fileName) {
+    std::error_code error;
+    return std::filesystem::is_regular_file(fileName, error) &&
+           std::ifstream(fileName, std::ios::binary).good();
+}
+
 } // namespace
 
 std::string ReadContentText(const std::string& fileName) {
     std::ifstream in(fileName, std::ios::binary | std::ios::ate);
-    if (!in)
+    if (!Readable(fileName) || !in)
         return {};
     const std::streamoff size = in.tellg();
     if (size <= 0)
@@ -203,7 +211,7 @@ void CutContent(std::string_view text, const CourseCatalogue& catalogue, CourseC
 
 bool LoadContent(SessionState& state) {
     const std::string& name = state.catalogue.ContentFileName;
-    if (!std::ifstream(name, std::ios::binary))
+    if (!Readable(name))
         return false;
     const std::string text = ReadContentText(name);
     state.content = CourseContent{};
