@@ -3,6 +3,7 @@
 // states what the candidate sees; none may crash or hang, and nothing saved may be lost.
 
 #include "core/content_format.h"
+#include "core/progress_backups.h"
 #include "core/progress_file.h"
 #include "core/records.h"
 #include "core/start_up.h"
@@ -49,6 +50,7 @@ struct Case {
     File file;
     std::function<std::string()> bytes; // what the damaged file holds
     std::function<void(const Seen&)> expect;
+    MessageAnswer answer = MessageAnswer::Yes; // to the question start-up asks
 };
 
 void PrintTo(const Case& c, std::ostream* out) {
@@ -128,14 +130,21 @@ ExamRecord Exam(int16_t count, int16_t position, std::vector<int16_t> items = {}
     return record;
 }
 
+const QString Damaged = QStringLiteral("Your progress file TesseraConfig.MS is damaged.\r\n");
+const std::vector<QString> DamagedWithoutBackup = {
+    Damaged + QStringLiteral("No good backup of it was found in the Backups folder. The program "
+                             "will use what it can read.")};
+
 // The header is read as far as the file holds it; a suspended number that cannot be right
 // restores nothing.
-void NothingRestored(const Seen& seen) {
-    EXPECT_EQ(seen.outcome, StartUpOutcome::Ready);
-    EXPECT_TRUE(seen.messages.empty());
-    EXPECT_EQ(seen.state.SuspendedTestRecord, 0);
-    EXPECT_EQ(seen.state.SuspendedExamRecord, 0);
-    EXPECT_EQ(seen.state.PassingGrade, 75) << "the header is still read";
+std::function<void(const Seen&)> NothingRestored(const std::vector<QString>& said = {}) {
+    return [=](const Seen& seen) {
+        EXPECT_EQ(seen.outcome, StartUpOutcome::Ready);
+        EXPECT_EQ(seen.messages, said);
+        EXPECT_EQ(seen.state.SuspendedTestRecord, 0);
+        EXPECT_EQ(seen.state.SuspendedExamRecord, 0);
+        EXPECT_EQ(seen.state.PassingGrade, 75) << "the header is still read";
+    };
 }
 
 // An empty progress file is a first run: the name is asked for.
@@ -274,29 +283,29 @@ const std::vector<Case>& Cases() {
         // The progress file: values that cannot be used are ignored, and the file is kept.
         {"progress_empty", File::Progress, [] { return std::string(); }, AskedForTheName},
         {"progress_shorter_than_a_header", File::Progress,
-         [] { return EarlierRun({}, {}).substr(0, 500); }, NothingRestored},
+         [] { return EarlierRun({}, {}).substr(0, 500); }, NothingRestored(DamagedWithoutBackup)},
         {"progress_odd_length", File::Progress,
          [] {
              return EarlierRun(Suspending(2, 0), {EncodeReviewTest(Review(10, 3))}) +
                     std::string(123, '\x07');
          },
          [](const Seen& seen) {
-             EXPECT_TRUE(seen.messages.empty());
+             EXPECT_EQ(seen.messages, DamagedWithoutBackup);
              EXPECT_EQ(seen.state.SuspendedTestRecord, 2);
              EXPECT_EQ(seen.state.TestItemCount, 10);
              EXPECT_EQ(ReadReviewTestRecords().size(), 1u) << "the cut-off tail is no record";
          }},
         {"progress_suspended_outside_the_file", File::Progress,
          [] { return EarlierRun(Suspending(9, 200), {EncodeReviewTest(Review(10, 3))}); },
-         NothingRestored},
+         NothingRestored()},
         {"progress_suspended_at_the_header", File::Progress,
-         [] { return EarlierRun(Suspending(1, 1), {}); }, NothingRestored},
+         [] { return EarlierRun(Suspending(1, 1), {}); }, NothingRestored()},
         {"progress_suspended_at_the_other_kind", File::Progress,
          [] {
              return EarlierRun(Suspending(3, 2),
                                {EncodeReviewTest(Review(10, 3)), EncodeExam(Exam(150, 4))});
          },
-         NothingRestored},
+         NothingRestored()},
         {"progress_counts_past_300", File::Progress,
          [] {
              return EarlierRun(Suspending(2, 3),
@@ -345,16 +354,33 @@ const std::vector<Case>& Cases() {
          [] { return std::string(RecordSize, '\xFF') + EarlierRun({}, {}).substr(RecordSize); },
          [](const Seen& seen) {
              EXPECT_EQ(seen.outcome, StartUpOutcome::Ready);
-             EXPECT_TRUE(seen.messages.empty());
+             EXPECT_EQ(seen.messages, DamagedWithoutBackup) << "a passing grade of 255";
              EXPECT_EQ(seen.state.SuspendedTestRecord, 0);
              EXPECT_FALSE(seen.state.ScrambleQuestions) << "a flag is on only when it is 1";
          }},
         {"progress_records_of_junk", File::Progress,
          [] { return EarlierRun({}, {}) + Junk(50 * RecordSize + 17, 2); },
          [](const Seen& seen) {
-             EXPECT_TRUE(seen.messages.empty());
+             EXPECT_EQ(seen.messages, DamagedWithoutBackup);
              EXPECT_EQ(ReadReviewTestRecords().size() + ReadExamRecords().size(), 50u);
          }},
+        {"progress_damaged_backup_declined", File::Progress,
+         [] {
+             // A good backup of yesterday beside the damaged file.
+             std::filesystem::create_directory(BackupFolder);
+             std::ofstream(BackupName(DateFromParts(2026, 11, 20)), std::ios::binary)
+                 << EarlierRun(Suspending(2, 0), {EncodeReviewTest(Review(10, 3))});
+             return EarlierRun({}, {}) + "x";
+         },
+         [](const Seen& seen) {
+             ASSERT_EQ(seen.messages.size(), 1u);
+             EXPECT_TRUE(seen.messages[0].startsWith(Damaged +
+                                                     QStringLiteral("The newest good backup is ")));
+             EXPECT_TRUE(seen.messages[0].endsWith(
+                 QStringLiteral("Press Yes to restore it. No to keep the damaged file.")));
+             EXPECT_EQ(seen.state.SuspendedTestRecord, 0) << "the damaged file is read";
+         },
+         MessageAnswer::No},
 
         // The notebook: whatever it holds opens, and opening it changes nothing on disk.
         {"notebook_not_rtf", File::NoteBook, [] { return std::string("Call the lender\r\n"); },
@@ -423,10 +449,10 @@ protected:
 
     // Reads the damaged file the way the program does: start-up for the content and progress
     // files, the notebook's view, the picture window.
-    Seen Read(File file) {
+    Seen Read(File file, MessageAnswer answer) {
         Seen seen;
         doubles.dialogs.type(QStringLiteral("Lee"));
-        doubles.dialogs.answer(MessageAnswer::Yes);
+        doubles.dialogs.answer(answer);
         if (file == File::Content || file == File::Progress) {
             seen.outcome = StartUp(seen.state, doubles.services).run();
         } else if (file == File::NoteBook) {
@@ -463,7 +489,7 @@ TEST_P(DamagedFile, IsReadWithoutHarm) {
         folder.write(name, damaged);
     }
     const std::string progress = folder.read(Progress);
-    const Seen seen = Read(c.file);
+    const Seen seen = Read(c.file, c.answer);
     c.expect(seen);
     // Nothing saved is lost: reading changes no file, but a first run's new header.
     if (c.bytes && !(c.file == File::Progress && seen.inputs > 0)) {
