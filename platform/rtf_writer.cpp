@@ -299,8 +299,12 @@ int RtfWriter::colourIndex(const QColor& colour) {
 std::string RtfWriter::header() const {
     std::string header = "{\\rtf1\\ansi\\deff0\\deflang1033{\\fonttbl";
     for (qsizetype i = 0; i < m_fonts.size(); ++i) {
-        header += "{\\f" + std::to_string(i) + familyClass(m_fonts[i]) + ' ' +
-                  toWindows1252(m_fonts[i]) + ";}";
+        // A name read from a damaged table may hold what would end the entry or the group.
+        std::string name = toWindows1252(m_fonts[i]);
+        std::erase_if(name, [](char c) {
+            return c == '{' || c == '}' || c == '\\' || c == ';' || (c >= 0 && c < ' ');
+        });
+        header += "{\\f" + std::to_string(i) + familyClass(m_fonts[i]) + ' ' + name + ";}";
     }
     header += '}';
     if (!m_colours.isEmpty()) {
