@@ -108,6 +108,14 @@ SaveResult SaveExam(SessionState& state, bool finished, DateValue today) {
     return result;
 }
 
+SaveResult SaveSuspendedRecord(SessionState& state, const RecordBytes& record, DateValue today) {
+    if (IsExamByte(record[0]))
+        return SaveRecord(state, record, state.SuspendedExamRecord, true, state.ExamKind + 9, false,
+                          today, std::nullopt);
+    return SaveRecord(state, record, state.SuspendedTestRecord, false, state.CurrentTopic, false,
+                      today, std::nullopt);
+}
+
 bool AppendProgressLog(int code, float score, DateValue today) {
     ProgressImage file = ProgressImage::load();
     ProgressHeader header = DecodeHeader(file.read(1));

@@ -55,6 +55,10 @@ SaveResult SaveReviewTest(SessionState& state, bool finished, DateValue today,
 // under 30% is removed again.
 SaveResult SaveExam(SessionState& state, bool finished, DateValue today);
 
+// Writes a record as it stands as the suspended test or exam of its kind, as a break would;
+// start-up does so with the journal of a run that a crash broke off.
+SaveResult SaveSuspendedRecord(SessionState& state, const RecordBytes& record, DateValue today);
+
 // Files one log entry in the first free slot of 36; with none free the entry is dropped.
 // Every operation that writes returns false, or FileFailed, when the file kept its old state.
 bool AppendProgressLog(int code, float score, DateValue today);

@@ -5,6 +5,7 @@
 #include "core/progress_backups.h"
 #include "core/progress_file.h"
 #include "core/progress_image.h"
+#include "core/run_journal.h"
 #include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/file_system.h"
@@ -95,6 +96,8 @@ StartUpOutcome StartUp::beforeTitle() {
     }
     ApplyHeader(ReadProgressHeader(), m_state);
     RestoreSuspended(m_state);
+    if (!damaged)
+        replayJournal();
     // A damaged file is not copied over the good backups.
     if (!damaged)
         BackupOnFirstStartOfDay(m_services.clock.now());
@@ -175,6 +178,22 @@ bool StartUp::offerBackupIfDamaged() {
                                    "again."),
                     title, MessageIcon::Critical, MessageButtons::Ok);
     return true;
+}
+
+void StartUp::replayJournal() {
+    const Replayed replayed = ReplayJournal(m_state, m_services.clock.now());
+    if (replayed == Replayed::Nothing)
+        return;
+    const bool exam = replayed == Replayed::Exam;
+    const QString run = exam ? QStringLiteral("screening exam") : QStringLiteral("review test");
+    m_services.dialogs.message(
+        QStringLiteral("The program stopped during a %1 and did not save it.").arg(run) +
+            QLatin1String(CrLf) +
+            QStringLiteral("Your answers up to the last one were kept. Resume the %1 from the "
+                           "Navigation Screen.")
+                .arg(exam ? QStringLiteral("exam") : QStringLiteral("test")),
+        exam ? QStringLiteral("Exam Recovered!") : QStringLiteral("Test Recovered!"),
+        MessageIcon::Information, MessageButtons::Ok);
 }
 
 std::optional<std::string> StartUp::askUserName() {

@@ -51,6 +51,8 @@ private:
     // Says that the progress file is damaged and offers the newest good backup; true while the
     // damaged file stays.
     bool offerBackupIfDamaged();
+    // Puts the test or exam a crash broke off back as suspended, and says so.
+    void replayJournal();
     std::optional<std::string> askUserName();
     bool firstRun();
     std::optional<StartUpError> writeFirstHeader(const std::string& name);

@@ -1,5 +1,7 @@
 #include "exam/exam_test.h"
 
+#include "core/run_journal.h"
+
 #include "core/button_menu.h"
 #include "core/session_state.h"
 #include "exam/exam_end.h"
@@ -47,6 +49,7 @@ void ExamTest::wireControls() {
             if (!m_showing && row >= 0) {
                 m_session.selectRow(index, row);
                 showSession();
+                journal();
             }
         });
         // A click on the row that is selected already, in the list that is not active.
@@ -55,12 +58,20 @@ void ExamTest::wireControls() {
             if (m_session.activeList() != index || m_session.list(index).selected != row) {
                 m_session.selectRow(index, row);
                 showSession();
+                journal();
             }
         });
     }
     RichTextBox1->installEventFilter(this);
     connect(Timer1, &QTimer::timeout, this, &ExamTest::Timer1_Timer);
     connect(Timer2, &QTimer::timeout, this, &ExamTest::Timer2_Timer);
+}
+
+void ExamTest::journal() {
+    // What a break would save, after every answer, so that a crash costs no more than one.
+    if (m_session.list(AnsweredList).rows() > 0) {
+        JournalExam(m_context.state, m_context.services.clock.now());
+    }
 }
 
 void ExamTest::Command1_Click(int index) {
@@ -107,6 +118,7 @@ void ExamTest::Command1_Click(int index) {
         return;
     }
     showSession();
+    journal();
     if (m_session.closeRequested()) {
         close();
     }
@@ -293,10 +305,14 @@ void ExamTest::Form_Unload() {
         showNormal();
     }
     SetNavigationEnabled(screens, true);
-    const ExamEndOutcome end =
-        EndExam(m_context.state, m_session.examFinished(), m_session.list(AnsweredList).rows(),
-                m_context.services.clock.now(), m_context.services.dialogs,
-                [&screens] { RefreshNavigation(screens); });
+    const int committed = m_session.list(AnsweredList).rows();
+    const ExamEndOutcome end = EndExam(m_context.state, m_session.examFinished(), committed,
+                                       m_context.services.clock.now(), m_context.services.dialogs,
+                                       [&screens] { RefreshNavigation(screens); });
+    // An exam that could not be saved keeps its journal for the next start.
+    if (end.saved || committed == 0) {
+        DropJournal();
+    }
     if (end.showResults) {
         screens.unload(ScreenName::Results);
         screens.show(ScreenName::Results);

@@ -42,7 +42,8 @@ private:
     void buildControls();
     QWidget* buildSidePanel();
     void wireControls();
-    void showSession(); // puts the session's values into the widgets
+    void showSession();
+    void journal(); // puts the session's values into the widgets
     void showLists();
     void showItemText();
     void showPicture();

@@ -1,5 +1,7 @@
 #include "review/quiz800.h"
 
+#include "core/run_journal.h"
+
 #include "core/item_text.h"
 #include "platform/clock.h"
 #include "platform/rich_text_view.h"
@@ -148,6 +150,8 @@ void Quiz800::ProcessAnswer(int& letter, int button) {
     }
     if (m_state.IncludeProgressReport)
         updateGauge();
+    // A crash from here on costs no answer given so far.
+    JournalReviewTest(m_state, std::floor(now()));
 }
 
 void Quiz800::KeyAnswer(int keyCode) {

@@ -4,6 +4,7 @@
 
 #include "core/button_menu.h"
 #include "core/progress_file.h"
+#include "core/run_journal.h"
 #include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/picture_window.h"
@@ -162,10 +163,14 @@ void Quiz800::Form_Unload() {
                                        Command1[6]->isEnabled(), m_state.TestFurthest);
     if (!plan.save) {
         m_state.TestPosition = 0; // the test is gone, with any wrong tries it had
+        DropJournal();
     } else {
         m_state.TestFurthest = plan.furthest;
         m_state.TestPosition = plan.position;
         const SaveResult saved = SaveTest();
+        // A test that could not be saved keeps its journal for the next start.
+        if (saved.status != SaveStatus::FileFailed)
+            DropJournal();
         if (saved.status == SaveStatus::SuspendedBeyondHeader) {
             m_context.services.dialogs.message(QString::fromLatin1(SuspendedBeyondHeaderMessage),
                                                QString::fromLatin1(SuspendedBeyondHeaderTitle),

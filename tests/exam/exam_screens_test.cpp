@@ -1,6 +1,7 @@
 // The three exam screens driven as a user would: clicks, keys, the clock double moved on, and
 // message boxes answered by script.
 
+#include "core/run_journal.h"
 #include "exam/exam_set.h"
 #include "exam/exam_test.h"
 #include "exam/results.h"
@@ -10,6 +11,7 @@
 #include "tests/support/test_services.h"
 
 #include <QCheckBox>
+#include <QFile>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -110,6 +112,7 @@ private Q_SLOTS:
         QCOMPARE(control<QLabel>(&exam, "Label1_0")->text(), QStringLiteral("Your Answer:  A"));
         QVERIFY(!control<QPushButton>(&exam, "Command1_0")->isEnabled());
         click(&exam, "Command1_5");
+        QVERIFY(QFile::exists(QString::fromLatin1(JournalFile))); // the committed answer
         QCOMPARE(rows(&exam, "List1_0"), QStringList{QStringLiteral("   1  A")});
         QCOMPARE(control<QWidget>(&exam, "Frame1")->property("title").toString(),
                  QStringLiteral(" 1 Answered           2 Remaining"));
@@ -127,6 +130,7 @@ private Q_SLOTS:
         QVERIFY(shown(ScreenName::Results));
         QCOMPARE(state.ExamAnswers[2], int16_t(0)); // the save wiped the uncommitted answer
         QCOMPARE(state.ExamPosition, int16_t(0));
+        QVERIFY(!QFile::exists(QString::fromLatin1(JournalFile)));
     }
 
     void structuredExamEndsAtTheLastConfirmAndTimeRunsOut() {

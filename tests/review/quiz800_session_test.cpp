@@ -3,6 +3,7 @@
 
 #include "core/button_menu.h"
 #include "core/progress_file.h"
+#include "core/run_journal.h"
 #include "quiz800_screen.h"
 #include "review/review_test.h"
 #include "tests/support/faulty_files.h"
@@ -152,9 +153,11 @@ private Q_SLOTS:
     void cancelOnTheFirstItemLeavesNoTrace() {
         auto quiz = open(1);
         quiz->click(quiz->wrong(0));
+        QVERIFY(QFile::exists(QString::fromLatin1(JournalFile))); // written after every answer
         quiz->click(7);
         QCOMPARE(f->state.TestPosition, 0);
         QVERIFY(!QFile::exists(QString::fromLatin1(ProgressFile)));
+        QVERIFY(!QFile::exists(QString::fromLatin1(JournalFile)));
     }
 
     void breakAfterItemFiveThenResumeInANewRun() {
@@ -163,6 +166,7 @@ private Q_SLOTS:
         const QChar fifth('A' + quiz->right());
         quiz->click(7);
         QCOMPARE(f->state.TestPosition, 5);
+        QVERIFY(!QFile::exists(QString::fromLatin1(JournalFile))); // the break saved it all
         const ProgressHeader header = ReadProgressHeader();
         QCOMPARE(header.SuspendedTestRecord, uint8_t{2});
         QCOMPARE(ReadReviewTestRecords().front().Furthest, 5);

@@ -4,6 +4,7 @@
 #include "core/progress_backups.h"
 #include "core/progress_file.h"
 #include "core/records.h"
+#include "core/run_journal.h"
 #include "core/start_up.h"
 #include "tests/support/study_folder.h"
 #include "tests/support/test_services.h"
@@ -392,5 +393,27 @@ INSTANTIATE_TEST_SUITE_P(
                               "program will use what it can read.",
                     ""}),
     [](const testing::TestParamInfo<DamagedCase>& info) { return info.param.name; });
+
+TEST_F(StartUpTest, AJournalLeftByACrashIsReplayedAndSaidSo) {
+    writeEarlierRun("Pat Doe");
+    SessionState running;
+    running.CurrentTopic = 2;
+    running.TestType = 1;
+    running.TestItemCount = 2;
+    running.TestItems = {0, 3, 4};
+    running.TestPosition = 2;
+    ASSERT_TRUE(JournalReviewTest(running, doubles.clock.now()));
+
+    EXPECT_EQ(start(), StartUpOutcome::Ready);
+    ASSERT_EQ(doubles.dialogs.messages().size(), 1u);
+    const ShownMessage& told = doubles.dialogs.messages().front();
+    EXPECT_EQ(told.title, QStringLiteral("Test Recovered!"));
+    EXPECT_EQ(told.text, QStringLiteral("The program stopped during a review test and did not "
+                                        "save it.\r\nYour answers up to the last one were kept. "
+                                        "Resume the test from the Navigation Screen."));
+    EXPECT_EQ(state.TestPosition, 2);
+    EXPECT_EQ(ReadProgressHeader().SuspendedTestRecord, 2);
+    EXPECT_FALSE(folder.exists(JournalFile));
+}
 
 } // namespace
