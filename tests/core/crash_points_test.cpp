@@ -1,9 +1,10 @@
-// Every operation that writes the progress file or the notebook, with the machine stopped at
+// Every operation that writes the progress file, the journal or the notebook, stopped at
 // each write, flush, rename and removal in turn, with a short write and with a full disk; then
 // start-up's recovery. Every record finished before the operation stays intact, and the file
 // is the old one or the new one.
 
 #include "core/progress_file.h"
+#include "core/run_journal.h"
 #include "platform/rich_text_view.h"
 #include "tests/support/faulty_files.h"
 #include "tests/support/study_folder.h"
@@ -124,6 +125,8 @@ std::vector<Operation> Operations() {
         {"RewriteProgressFile, exam card", ProgressFile, examsErased},
         {"RemoveProgressRecord", ProgressFile,
          [](SessionState& s) { RemoveProgressRecord(s, 6, Today); }},
+        {"Journal of a running test", JournalFile,
+         [](SessionState& s) { JournalReviewTest(s, Today); }},
         {"NoteBook save", NoteBookFile,
          [](SessionState&) {
              RichTextView view;
@@ -157,8 +160,8 @@ private:
         state.ExamPosition = 2;
     }
 
-    // The files after the operation ran with the fault, the machine started again and
-    // start-up recovered the progress file.
+    // The progress file and the operation's own file after the operation ran with the fault,
+    // the machine started again and start-up recovered the progress file.
     std::pair<std::string, std::string>
     runWith(const Operation& operation, FaultyFiles::Fault fault, int at, int* steps, int* writes) {
         SessionState state;
@@ -172,7 +175,7 @@ private:
                 *writes = files.writes();
         }
         RecoverProgressFile();
-        return {m_folder->read(ProgressFile), m_folder->read(NoteBookFile)};
+        return {m_folder->read(ProgressFile), m_folder->read(operation.file)};
     }
 
 private Q_SLOTS:
@@ -182,14 +185,13 @@ private Q_SLOTS:
         int lost = 0;
         int neither = 0;
         for (const Operation& operation : Operations()) {
-            const bool notebook = std::string_view(operation.file) == NoteBookFile;
             SessionState state;
             prepare(state);
             const std::string oldFile = m_folder->read(operation.file);
             int steps = 0;
             int writes = 0;
             const auto clean = runWith(operation, FaultyFiles::Fault::None, 0, &steps, &writes);
-            const std::string newFile = notebook ? clean.second : clean.first;
+            const std::string newFile = clean.second;
             QVERIFY2(newFile != oldFile, operation.name);
 
             // Finished records the operation keeps must survive whatever strikes.
@@ -207,8 +209,7 @@ private Q_SLOTS:
                 faults.emplace_back(FaultyFiles::Fault::DiskFull, at);
             }
             for (const auto& [fault, at] : faults) {
-                const auto [progress, notes] = runWith(operation, fault, at, nullptr, nullptr);
-                const std::string& file = notebook ? notes : progress;
+                const auto [progress, file] = runWith(operation, fault, at, nullptr, nullptr);
                 ++combinations;
                 crashes += fault == FaultyFiles::Fault::Crash ? 1 : 0;
                 if (file != oldFile && file != newFile) {
