@@ -178,7 +178,12 @@ ReviewOptions Preferences::chosenOptions() const {
 }
 
 void Preferences::SavePreferences() {
-    tessera::SavePreferences(m_context.state);
+    if (!tessera::SavePreferences(m_context.state))
+        m_context.services.dialogs.message(
+            QStringLiteral("Your preferences could not be written to TesseraConfig.MS. They hold "
+                           "until you quit; make sure the study folder can be written to, then "
+                           "save them again."),
+            QStringLiteral("Preferences Not Saved"), MessageIcon::Critical, MessageButtons::Ok);
     m_changesPending = false;
 }
 

@@ -1,5 +1,6 @@
 // The review test options dialog: what it shows, what it limits, and what it saves.
 
+#include "tests/support/faulty_files.h"
 #include "tests/support/recording_screens.h"
 #include "tests/support/study_folder.h"
 #include "tests/support/test_services.h"
@@ -113,6 +114,19 @@ private Q_SLOTS:
         std::string expected = markedHeader();
         expected.replace(0, 5, std::string("\x00\x01\x01\x00\x55", 5));
         QVERIFY(folder->read("TesseraConfig.MS") == expected);
+    }
+
+    void aFailedSaveIsToldAndTheFileKept() {
+        const std::string before = folder->read("TesseraConfig.MS");
+        Preferences dialog(*context);
+        dialog.Check2->click();
+        {
+            FaultyFiles full(FaultyFiles::Fault::DiskFull, 1);
+            dialog.Command1->click();
+        }
+        QCOMPARE(doubles->dialogs.titles(), QStringList{QStringLiteral("Preferences Not Saved")});
+        QVERIFY(state.SoundOn); // for this run
+        QVERIFY(folder->read("TesseraConfig.MS") == before);
     }
 
     void closingWithChangesAsksWhetherToSave() {
