@@ -383,6 +383,8 @@ const std::vector<Case>& Cases() {
          MessageAnswer::No},
 
         // The notebook: whatever it holds opens, and opening it changes nothing on disk.
+        {"notebook_missing", File::NoteBook, nullptr,
+         [](const Seen& seen) { EXPECT_TRUE(seen.noteBookText.isEmpty()); }},
         {"notebook_not_rtf", File::NoteBook, [] { return std::string("Call the lender\r\n"); },
          [](const Seen& seen) { OpensAs(seen, QStringLiteral("Call the lender\n")); }},
         {"notebook_truncated", File::NoteBook,
@@ -481,10 +483,12 @@ TEST_P(DamagedFile, IsReadWithoutHarm) {
                              : c.file == File::NoteBook ? NoteBook
                                                         : Picture;
     std::string damaged;
-    if (!c.bytes && c.file == File::Content) {
+    if (!c.bytes) {
+        // No file at all, and for the content file a folder in its place.
         std::filesystem::remove(folder.path() / name);
-        std::filesystem::create_directory(folder.path() / name);
-    } else if (c.bytes) {
+        if (c.file == File::Content)
+            std::filesystem::create_directory(folder.path() / name);
+    } else {
         damaged = c.bytes();
         folder.write(name, damaged);
     }
