@@ -69,10 +69,14 @@ std::string Junk(size_t size, unsigned seed) {
     return bytes;
 }
 
-std::string Replaced(std::string text, std::string_view from, std::string_view to) {
-    for (size_t at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size()))
-        text.replace(at, from.size(), to);
-    return text;
+std::string Replaced(const std::string& text, std::string_view from, std::string_view to) {
+    std::string result;
+    size_t done = 0;
+    for (size_t at = text.find(from); at != std::string::npos; at = text.find(from, done)) {
+        result.append(text, done, at - done).append(to);
+        done = at + from.size();
+    }
+    return result.append(text, done);
 }
 
 // Where section marker i stands, 0-based.
@@ -398,11 +402,11 @@ const std::vector<Case>& Cases() {
         {"notebook_very_large", File::NoteBook,
          [] {
              std::string rtf = "{\\rtf1\\ansi ";
-             for (int i = 0; rtf.size() < 8 * Megabyte; ++i)
+             for (int i = 0; rtf.size() < 2 * Megabyte; ++i)
                  rtf += "\\par Line " + std::to_string(i) + " of my notes\r\n";
              return rtf + "}";
          },
-         [](const Seen& seen) { EXPECT_GT(seen.noteBookText.size(), 4 * 1000 * 1000); }},
+         [](const Seen& seen) { EXPECT_GT(seen.noteBookText.size(), 1000 * 1000); }},
 
         // The pictures: a picture that cannot be read leaves the window empty.
         {"picture_missing", File::Picture, nullptr, EmptyPicture},
@@ -492,15 +496,16 @@ TEST_P(DamagedFile, IsReadWithoutHarm) {
         damaged = c.bytes();
         folder.write(name, damaged);
     }
-    const std::string progress = folder.read(Progress);
+    const std::string progress = folder.read(Progress); // as the content cases find it
     const Seen seen = Read(c.file, c.answer);
     c.expect(seen);
-    // Nothing saved is lost: reading changes no file, but a first run's new header.
-    if (c.bytes && !(c.file == File::Progress && seen.inputs > 0)) {
-        EXPECT_TRUE(folder.read(name) == damaged) << name << " changed";
-    }
-    if (c.file != File::Progress) {
-        EXPECT_EQ(folder.read(Progress), progress);
+    // Nothing saved is lost: reading changes neither the progress file, but for a first run's
+    // new header, nor the notebook.
+    if (c.file == File::Progress && seen.inputs > 0)
+        return;
+    EXPECT_EQ(folder.read(Progress), c.file == File::Progress ? damaged : progress);
+    if (c.file == File::NoteBook && c.bytes) {
+        EXPECT_TRUE(folder.read(NoteBook) == damaged) << "the notebook changed";
     }
 }
 
