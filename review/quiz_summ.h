@@ -2,23 +2,15 @@
 // QuizSumm, the "Review Test Scoring Report Card": every stored review test, one row a test,
 // with a totals line; sorts, prints, erases rows and starts a retake of the selected test.
 
-#include "platform/services.h"
+#include "core/report_card.h"
 #include "review/quiz_summ_rows.h"
-
-#include <QWidget>
 
 #include <array>
 #include <vector>
 
-class QGroupBox;
-class QLabel;
-class QListWidget;
-class QPushButton;
-class QRadioButton;
-
 namespace tessera {
 
-class QuizSumm final : public QWidget {
+class QuizSumm final : public ReportCard {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(QuizSumm)
 
@@ -26,44 +18,35 @@ public:
     // Form_Load: reads every review test from the progress file.
     explicit QuizSumm(ScreenContext& context);
 
-    // 0 "&Print", 1 "&Erase Test", 2 "&Done", 3 "&Help", 4 "&Retake".
-    void Command1_Click(int index);
-
-    std::array<QLabel*, 8> Label1{};
-    QListWidget* List1 = nullptr;
-    QLabel* Label2 = nullptr;
-    QLabel* Label3 = nullptr;
-    QGroupBox* Frame1 = nullptr;
-    QGroupBox* Frame2 = nullptr;
-    std::array<QRadioButton*, 5> Option1{};
-    std::array<QRadioButton*, 3> Option2{};
-    std::array<QPushButton*, 5> Command1{};
-
-protected:
-    void closeEvent(QCloseEvent* event) override;
-    void changeEvent(QEvent* event) override;
+    // Command1: 0 "&Print", 1 "&Erase Test", 2 "&Done", 3 "&Help", 4 "&Retake".
+    std::array<QLabel*, 8> Label1{}; // the column heads
+    QLabel* Label2 = nullptr;        // the totals
+    QLabel* Label3 = nullptr;        // the selected test's topic
 
 private:
-    // quiz_summ_layout.cpp
-    void buildControls();
-    QWidget* m_heads = nullptr; // holds Label1, placed over the columns
-    void alignHeads();
+    struct Labels {
+        std::array<QLabel*, 8> heads;
+        QLabel* totals;
+        QLabel* topic;
+        QLabel* note;
+    };
+    static Labels MakeLabels();
+    QuizSumm(ScreenContext& context, Labels labels);
 
-    void FillList();
-    void Option1_Click(int index);
-    void Option2_Click(int index);
-    void List1_Click(int row);
-    void selectRow(int row);
-    void EraseTest();
-    void Retake();
-    void printCard();
-    void OfferToSave();
-    int selectedChoice() const;
-    bool retakePossible() const;
+    int rowCount() const override;
+    QString rowText(int row) const override;
+    QString totalsText() const override;
+    QString topicText(int row) const override;
+    int rowKey(int row) const override;
+    void sortRows(int sort) override;
+    int eraseRow(int row) override;
+    std::array<bool, 3> offeredChoices(int row) const override;
+    SaveStatus rewriteRows() override;
+    void buildRetake(int row, int choice) override;
+    void printRows() override;
+    const CardRow& at(int row) const { return m_rows[static_cast<size_t>(row - 1)]; }
 
-    ScreenContext& m_context;
     std::vector<CardRow> m_rows;
-    bool CardChanged = false;
 };
 
 } // namespace tessera

@@ -90,7 +90,7 @@ const GalleryEntry scoringCard("reports_scoring_card", [](GalleryScene& scene) {
     CountTakes(scene);
     WriteSampleCard(1);
     auto* card = new Scoring(scene.context);
-    card->List1->setCurrentRow(1);
+    card->List1->setCurrentRow(2); // a custom exam, with its topics
     return card;
 });
 

@@ -7,9 +7,8 @@
 #include "reports/scoring.h"
 #include "scoring_exam.h"
 #include "tests/exam/exam_fixture.h"
-#include "tests/support/recording_screens.h"
-#include "tests/support/study_folder.h"
-#include "tests/support/test_services.h"
+#include "tests/support/report_card_driver.h"
+#include "tests/support/screen_fixture.h"
 
 #include <QGroupBox>
 #include <QLabel>
@@ -55,57 +54,42 @@ class ScoringScreenTest : public QObject {
     Q_OBJECT
 
 private:
-    std::unique_ptr<StudyFolder> folder;
-    std::unique_ptr<TestServices> doubles;
-    SessionState state;
-    RecordingScreenHost screens;
-    std::unique_ptr<ScreenContext> context;
+    std::unique_ptr<ScreenFixture> f;
     std::unique_ptr<Scoring> card;
 
     void writeFile(const ProgressHeader& header, const std::vector<RecordBytes>& records) {
         std::string bytes = Bytes(EncodeHeader(header));
         for (const RecordBytes& record : records)
             bytes += Bytes(record);
-        folder->write(ProgressFile, bytes);
+        f->folder.write(ProgressFile, bytes);
     }
     // Records: 2 an exam of December, 3 a review test, 4 a custom exam of January, 5 an exam of
     // November, 6 the suspended review test. By text the January exam is the earliest.
     void writeThreeExamsAndTwoTests() {
         ProgressHeader header;
         header.SuspendedTestRecord = 6;
-        state.SuspendedTestRecord = 6;
+        f->state.SuspendedTestRecord = 6;
         writeFile(header, {EncodeExam(CardExam(10, 1, "12-20-2026", 0.875F, {1, 2, 3, 9}, 1)),
                            EncodeReviewTest(AReviewTest(3)), EncodeExam(ACustomExam("01-05-2027")),
                            EncodeExam(CardExam(11, 2, "11-02-2026", 0.6F, {69, 6, 0, 2, 64}, 3)),
                            EncodeReviewTest(AReviewTest(5))});
     }
     void open() {
-        card = std::make_unique<Scoring>(*context);
+        card = std::make_unique<Scoring>(f->context);
         card->show();
     }
-    QStringList rows() const {
-        QStringList texts;
-        for (int i = 0; i < card->List1->count(); ++i)
-            texts << card->List1->item(i)->text();
-        return texts;
-    }
-    void click(QAbstractButton* button) {
-        QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(6, button->height() / 2));
-    }
+    QStringList rows() const { return ListRows(card->List1); }
+    void click(QAbstractButton* button) { ClickAtLeft(button); }
     void select(int row) { card->List1->setCurrentRow(row - 1); }
 
 private Q_SLOTS:
     void init() {
-        folder = std::make_unique<StudyFolder>();
-        doubles = std::make_unique<TestServices>();
-        state = SessionState{};
-        testing::MakeCourse(state, {4, 3, 5, 2, 2, 2, 2, 2, 3}, {6, 5});
-        screens.clearCalls();
-        context = std::make_unique<ScreenContext>(ScreenContext{state, doubles->services, screens});
+        f = std::make_unique<ScreenFixture>();
+        testing::MakeCourse(f->state, {4, 3, 5, 2, 2, 2, 2, 2, 3}, {6, 5});
     }
     void cleanup() {
         card.reset();
-        folder.reset();
+        f.reset();
     }
 
     void listsEveryExamEarliestByTextAndSortsKeepingTheSelection() {
@@ -162,8 +146,8 @@ private Q_SLOTS:
         click(card->Option2[0]);
         QVERIFY(card->Command1[4]->isEnabled());
         // After three takes of exam I, whose full length is here 2, all of it is not offered again.
-        state.TakeCounts[10] = 3;
-        state.content.ItemCounts[1][2] = 2;
+        f->state.TakeCounts[10] = 3;
+        f->state.content.ItemCounts[1][2] = 2;
         select(2);
         QVERIFY(!card->Option2[0]->isEnabled());
         QVERIFY(card->Option2[1]->isEnabled());
@@ -177,27 +161,27 @@ private Q_SLOTS:
     void erasing() {
         QFETCH(bool, save);
         writeThreeExamsAndTwoTests();
-        const std::string before = folder->read(ProgressFile);
+        const std::string before = f->folder.read(ProgressFile);
         open();
         click(card->Command1[1]); // the January custom exam
         QCOMPARE(card->List1->currentRow(), 0);
         QVERIFY(rows()[0].contains(QStringLiteral("11-02-2026")));
-        QVERIFY(doubles->dialogs.messages().empty()); // nothing asked yet
-        QCOMPARE(folder->read(ProgressFile), before);
-        doubles->dialogs.answer(save ? MessageAnswer::Yes : MessageAnswer::No);
+        QVERIFY(f->dialogs.messages().empty()); // nothing asked yet
+        QCOMPARE(f->folder.read(ProgressFile), before);
+        f->dialogs.answer(save ? MessageAnswer::Yes : MessageAnswer::No);
         click(card->Command1[2]);
 
-        QCOMPARE(doubles->dialogs.messages().size(), size_t{1});
-        const ShownMessage& asked = doubles->dialogs.messages()[0];
+        QCOMPARE(f->dialogs.messages().size(), size_t{1});
+        const ShownMessage& asked = f->dialogs.messages()[0];
         QCOMPARE(asked.text, QStringLiteral("Save Changes to Report Card?"));
         QCOMPARE(asked.title, QStringLiteral("Exam Data Erased!"));
         QCOMPARE(asked.icon, MessageIcon::Exclamation);
         QCOMPARE(asked.buttons, MessageButtons::YesNo);
         QVERIFY(
-            (screens.calls().back() == ScreenCall{ScreenCallKind::Unload, ScreenName::Scoring}));
+            (f->screens.calls().back() == ScreenCall{ScreenCallKind::Unload, ScreenName::Scoring}));
         if (!save) {
-            QVERIFY(folder->read(ProgressFile) == before);
-            QCOMPARE(state.SuspendedTestRecord, int16_t{6});
+            QVERIFY(f->folder.read(ProgressFile) == before);
+            QCOMPARE(f->state.SuspendedTestRecord, int16_t{6});
             return;
         }
         // The exams in the card's order, then the review tests in their old order; the
@@ -206,8 +190,8 @@ private Q_SLOTS:
         header[5] = 5;
         const std::string after =
             header + Slice(before, 5) + Slice(before, 2) + Slice(before, 3) + Slice(before, 6);
-        QVERIFY(folder->read(ProgressFile) == after);
-        QCOMPARE(state.SuspendedTestRecord, int16_t{5});
+        QVERIFY(f->folder.read(ProgressFile) == after);
+        QCOMPARE(f->state.SuspendedTestRecord, int16_t{5});
     }
 
     void erasedTopicFlagsAreWrittenAsExactlyOne() {
@@ -216,7 +200,7 @@ private Q_SLOTS:
         open();
         select(2);
         click(card->Command1[1]);
-        doubles->dialogs.answer(MessageAnswer::Yes);
+        f->dialogs.answer(MessageAnswer::Yes);
         click(card->Command1[2]);
         const auto exams = ReadExamRecords();
         QCOMPARE(exams.size(), size_t{1});
@@ -237,7 +221,7 @@ private Q_SLOTS:
         QFETCH(int, type);
         QFETCH(QList<int>, items);
         writeThreeExamsAndTwoTests();
-        state.ExamMinutes = 30;
+        f->state.ExamMinutes = 30;
         open();
         select(2);
         click(card->Option2[choice]);
@@ -246,16 +230,16 @@ private Q_SLOTS:
         const std::vector<ScreenCall> expected = {{ScreenCallKind::Unload, ScreenName::Scoring},
                                                   {ScreenCallKind::Unload, ScreenName::ExamTest},
                                                   {ScreenCallKind::Show, ScreenName::ExamTest}};
-        QVERIFY(screens.calls() == expected);
-        QVERIFY(doubles->dialogs.messages().empty());
-        QCOMPARE(state.ExamType, int16_t(type));
-        QCOMPARE(state.ExamMinutes, int16_t{195});
+        QVERIFY(f->screens.calls() == expected);
+        QVERIFY(f->dialogs.messages().empty());
+        QCOMPARE(f->state.ExamType, int16_t(type));
+        QCOMPARE(f->state.ExamMinutes, int16_t{195});
         // The exam screen opens it as a new exam of these items, in this order.
-        ExamSession session(state, doubles->clock, doubles->random);
+        ExamSession session(f->state, f->clock, f->random);
         session.open();
         QCOMPARE(session.list(1).rows(), int(items.size()));
         for (int p = 1; p <= items.size(); ++p)
-            QCOMPARE(int(state.ExamItems[static_cast<size_t>(p)]), items[p - 1]);
+            QCOMPARE(int(f->state.ExamItems[static_cast<size_t>(p)]), items[p - 1]);
         QCOMPARE(QString::fromStdString(session.windowCaption()),
                  QStringLiteral("Screening Exam II, Item 1 of %1").arg(items.size()));
         QVERIFY(session.itemRtf().find("Question 1.3") != std::string::npos); // item 3 first
@@ -265,42 +249,42 @@ private Q_SLOTS:
         writeThreeExamsAndTwoTests();
         open();
         click(card->Command1[1]); // an erasure is offered for saving first
-        doubles->dialogs.answer(MessageAnswer::No);
+        f->dialogs.answer(MessageAnswer::No);
         select(2); // exam I of December
         click(card->Command1[5]);
-        QCOMPARE(doubles->dialogs.messages().size(), size_t{1});
+        QCOMPARE(f->dialogs.messages().size(), size_t{1});
         const std::vector<ScreenCall> expected = {{ScreenCallKind::Unload, ScreenName::Scoring},
                                                   {ScreenCallKind::Unload, ScreenName::Results},
                                                   {ScreenCallKind::Show, ScreenName::Results}};
-        QVERIFY(screens.calls() == expected);
-        QCOMPARE(state.ExamKind, int16_t{1});
-        QCOMPARE(state.ExamItemCount, int16_t{4});
-        QCOMPARE(state.ExamAnswers[4], int16_t{4});
+        QVERIFY(f->screens.calls() == expected);
+        QCOMPARE(f->state.ExamKind, int16_t{1});
+        QCOMPARE(f->state.ExamItemCount, int16_t{4});
+        QCOMPARE(f->state.ExamAnswers[4], int16_t{4});
     }
 
     void helpOpensTopicThirteen() {
         open();
         click(card->Command1[3]);
-        QCOMPARE(state.HelpTopic, int16_t{13});
+        QCOMPARE(f->state.HelpTopic, int16_t{13});
         const std::vector<ScreenCall> expected = {{ScreenCallKind::Unload, ScreenName::Help},
                                                   {ScreenCallKind::Show, ScreenName::Help}};
-        QVERIFY(screens.calls() == expected);
+        QVERIFY(f->screens.calls() == expected);
     }
 
     void printingTakesTheListInItsOrderAndKeepsTheSelection() {
         writeThreeExamsAndTwoTests();
-        state.PrintFontName = "Courier New";
+        f->state.PrintFontName = "Courier New";
         open();
         select(2);
         click(card->Command1[0]);
-        const std::vector<QString> page = doubles->printer.pageText(1);
+        const std::vector<QString> page = f->printer.pageText(1);
         QCOMPARE(page.size(), size_t{6 + 3 + 2 + 2});
         QCOMPARE(page[6], rows()[0]);
         QCOMPARE(page[7], QStringLiteral("          Topics Covered:  2, 7"));
         QCOMPARE(page[9], rows()[1]);
         QCOMPARE(page.back(), QString(13, QLatin1Char(' ')) + card->Label1[10]->text());
         QCOMPARE(card->List1->currentRow(), 1);
-        state.PrinterProblem = true;
+        f->state.PrinterProblem = true;
         open();
         QVERIFY(!card->Command1[0]->isEnabled());
     }

@@ -5,6 +5,7 @@
 #include "quiz_summ_card.h"
 #include "review/quiz_summ.h"
 #include "review_course.h"
+#include "tests/support/report_card_driver.h"
 
 #include <QGroupBox>
 #include <QLabel>
@@ -67,16 +68,8 @@ private:
         card = std::make_unique<QuizSumm>(f->context);
         card->show();
     }
-    QStringList rows() const {
-        QStringList texts;
-        for (int i = 0; i < card->List1->count(); ++i)
-            texts << card->List1->item(i)->text();
-        return texts;
-    }
-    // Clicks near the left edge, on an option's circle or a button's face.
-    void click(QAbstractButton* button) {
-        QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(6, button->height() / 2));
-    }
+    QStringList rows() const { return ListRows(card->List1); }
+    void click(QAbstractButton* button) { ClickAtLeft(button); }
     void select(int row) { card->List1->setCurrentRow(row - 1); }
 
 private Q_SLOTS:

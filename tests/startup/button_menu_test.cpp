@@ -161,6 +161,7 @@ private Q_SLOTS:
         QCOMPARE(shownFrames(), 0);
 
         control<QPushButton>("Command2_0")->click();
+        control<QPushButton>("Command2_1")->click();
         control<QPushButton>("Command2_2")->click();
         control<QPushButton>("Command5_2")->click();
         QCOMPARE(m_state->HelpTopic, 17);
@@ -168,6 +169,8 @@ private Q_SLOTS:
                  (std::vector<ScreenCall>{{ScreenCallKind::Show, ScreenName::Quiz800},
                                           {ScreenCallKind::Unload, ScreenName::QuizSumm},
                                           {ScreenCallKind::Show, ScreenName::QuizSumm},
+                                          {ScreenCallKind::Unload, ScreenName::Scoring},
+                                          {ScreenCallKind::Show, ScreenName::Scoring},
                                           {ScreenCallKind::ShowModal, ScreenName::Navigator},
                                           {ScreenCallKind::Unload, ScreenName::Help},
                                           {ScreenCallKind::Show, ScreenName::Help}}));
