@@ -2,7 +2,7 @@
 
 #include "core/gap_sort.h"
 #include "exam/draw_exam.h"
-#include "exam_fixture.h"
+#include "tests/support/study_fixture.h"
 
 #include <gtest/gtest.h>
 
@@ -36,13 +36,7 @@ TEST(GapSort, SortsRowsOneToNAndMovesParallelTables) {
     }
 }
 
-class DrawExamTest : public ::testing::Test {
-protected:
-    void SetUp() override { testing::MakeCourse(state, {4, 3, 5, 2, 2, 2, 2, 2, 3}, {6, 5}); }
-    SessionState state;
-    FakeRandom random;
-    FakeClock clock;
-};
+class DrawExamTest : public ::testing::Test, protected StudyFixture {};
 
 TEST_F(DrawExamTest, UnscrambledCustomExamOfTheWholePoolIsInRunningOrder) {
     state.ExamKind = 3;

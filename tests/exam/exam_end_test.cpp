@@ -5,28 +5,24 @@
 #include "exam/exam_end.h"
 #include "exam/exam_session.h"
 #include "exam/results_summary.h"
-#include "exam_fixture.h"
+#include "tests/support/study_fixture.h"
 
 #include <gtest/gtest.h>
-
-#include <cstdio>
 
 namespace tessera {
 namespace {
 
-class ExamEndTest : public ::testing::Test {
+class ExamEndTest : public ::testing::Test, protected StudyFixture {
 protected:
     void SetUp() override {
-        std::remove(ProgressFile);
         ProgressHeader header;
         header.UserName = "Candidate" + std::string(21, ' ');
         WriteProgressHeader(header);
         NewState(state);
     }
-    void TearDown() override { std::remove(ProgressFile); }
 
     void NewState(SessionState& s) {
-        testing::MakeCourse(s, {4, 3, 5, 2, 2, 2, 2, 2, 3}, {80, 10});
+        FillSmallCourse(s, SmallTopicCounts, {80, 10});
         s.PassingGrade = 70;
     }
     // A new unscrambled exam I of n items, keys A B C D A ...
@@ -59,10 +55,6 @@ protected:
                        [this] { ++refreshed; });
     }
 
-    SessionState state;
-    FakeClock clock;
-    FakeRandom random;
-    ScriptedDialogs dialogs;
     std::unique_ptr<ExamSession> session;
     int refreshed = 0;
 };

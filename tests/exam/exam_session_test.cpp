@@ -1,7 +1,7 @@
 // The exam while it runs: lists, answering, the unsure mark, both approaches, keys, the clock.
 
 #include "exam/exam_session.h"
-#include "exam_fixture.h"
+#include "tests/support/study_fixture.h"
 
 #include <gtest/gtest.h>
 
@@ -26,10 +26,9 @@ private:
     FakeClock& m_clock;
 };
 
-class ExamSessionTest : public ::testing::Test {
+class ExamSessionTest : public ::testing::Test, protected StudyFixture {
 protected:
     void SetUp() override {
-        testing::MakeCourse(state, {4, 3, 5, 2, 2, 2, 2, 2, 3}, {6, 5});
         state.ExamKind = state.ExamType = 1;
         state.ExamScrambled = false;
         state.ExamItemCount = 5;
@@ -48,10 +47,6 @@ protected:
         }
         return texts;
     }
-    SessionState state;
-    FakeClock clock;
-    FakeRandom random;
-    ScriptedDialogs dialogs;
     std::unique_ptr<ExamSession> session;
 };
 

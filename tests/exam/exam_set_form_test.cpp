@@ -1,7 +1,7 @@
 // The builder's values: captions by take counter, the pool and its guards, custom values kept.
 
 #include "exam/exam_set_form.h"
-#include "exam_fixture.h"
+#include "tests/support/small_course.h"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +12,7 @@ class ExamSetFormTest : public ::testing::Test {
 protected:
     void SetUp() override {
         // Topic 1 has 90 items, topic 2 only 12; the exams 150 and 140.
-        testing::MakeCourse(state, {90, 12, 100, 100, 100, 100, 100, 100, 94}, {150, 140});
+        FillSmallCourse(state, {90, 12, 100, 100, 100, 100, 100, 100, 94}, {150, 140});
     }
     SessionState state;
 };

@@ -2,7 +2,7 @@
 
 #include "exam/exam_format.h"
 #include "exam/results_summary.h"
-#include "exam_fixture.h"
+#include "tests/support/small_course.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +11,7 @@ namespace {
 
 TEST(ResultsSummary, CountsLabelsAndRowsOfAFourItemExam) {
     SessionState state;
-    testing::MakeCourse(state, {4, 3, 5, 2, 2, 2, 2, 2, 3}, {6, 5});
+    FillSmallCourse(state);
     state.ExamKind = 3;
     state.ExamItemCount = 4;
     state.ExamItems = {0, 8, 2, 4, 6}; // keys A B D B

@@ -11,11 +11,7 @@
 //
 // and the build picks the file up by itself.
 
-#include "core/session_state.h"
-#include "platform/services.h"
-#include "tests/support/recording_screens.h"
-#include "tests/support/study_folder.h"
-#include "tests/support/test_services.h"
+#include "tests/support/screen_fixture.h"
 
 #include <QString>
 
@@ -25,20 +21,11 @@ class QWidget;
 
 namespace tessera {
 
-// What an entry builds its screen from: a study folder of its own as the current directory,
-// the doubles, a catalogue already filled, and a host on which every screen is available.
-struct GalleryScene {
-    GalleryScene();
-
+// What an entry builds its screen from: the screen fixture, on which every screen is available.
+struct GalleryScene : ScreenFixture {
     // The default course compiled from its source and cut as start-up would; the made-up
     // full-size course where the source does not compile.
     void loadDefaultCourse();
-
-    StudyFolder folder;
-    TestServices doubles;
-    SessionState state;
-    RecordingScreenHost screens;
-    ScreenContext context{state, doubles.services, screens};
 };
 
 // Builds the screen to render; the gallery owns and shows it. Nothing means the entry failed.

@@ -47,10 +47,6 @@ bool render(const QString& name, const GalleryBuild& build, const QDir& output) 
 
 } // namespace
 
-GalleryScene::GalleryScene() {
-    FillCatalogue(state);
-}
-
 GalleryEntry::GalleryEntry(const char* name, GalleryBuild build) {
     entries().emplace(QString::fromLatin1(name), std::move(build));
 }

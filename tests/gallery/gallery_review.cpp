@@ -81,7 +81,7 @@ void fillSampleCourse(GalleryScene& scene) {
 // A test of topic 6 standing at a position, its earlier items scored with this tally.
 Quiz800* resumedQuiz(GalleryScene& scene, int position, int right, int wrong) {
     fillSampleCourse(scene);
-    BuildAllItemsTest(scene.state, scene.doubles.random, 0);
+    BuildAllItemsTest(scene.state, scene.random, 0);
     scene.state.TestPosition = static_cast<int16_t>(position);
     scene.state.TestFurthest = static_cast<int16_t>(position);
     scene.state.TestTally = {0, static_cast<int16_t>(right), static_cast<int16_t>(wrong),
@@ -109,7 +109,7 @@ void takeWish(Quiz800& quiz, int wish) {
 
 const GalleryEntry openItem("review_quiz_open_item", [](GalleryScene& scene) -> QWidget* {
     Quiz800* quiz = newQuiz(scene);
-    scene.doubles.clock.advanceSeconds(42);
+    scene.clock.advanceSeconds(42);
     quiz->Timer1_Timer();
     return quiz;
 });
@@ -117,7 +117,7 @@ const GalleryEntry openItem("review_quiz_open_item", [](GalleryScene& scene) -> 
 const GalleryEntry wrongTry("review_quiz_wrong_try", [](GalleryScene& scene) -> QWidget* {
     Quiz800* quiz = newQuiz(scene);
     quiz->Command1[1]->click();
-    scene.doubles.clock.advanceSeconds(75);
+    scene.clock.advanceSeconds(75);
     quiz->Timer1_Timer();
     return quiz;
 });
@@ -163,7 +163,7 @@ const GalleryEntry finished("review_finished_box", [](GalleryScene& scene) -> QW
     quiz->Command1[6]->click(); // the scripted box answers Cancel and the test goes on
     delete quiz;
     // The box as the message service shows it: lines broken, the icon of its kind.
-    const ShownMessage& shown = scene.doubles.dialogs.messages().at(0);
+    const ShownMessage& shown = scene.dialogs.messages().at(0);
     QString text = shown.text;
     text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     const QMessageBox::Icon icon =

@@ -22,8 +22,8 @@ ButtonMenu* navigation(GalleryScene& scene, int option) {
 
 const GalleryEntry title("startup_title_screen", [](GalleryScene& scene) -> QWidget* {
     scene.folder.write("Tessera", "{\\rtf1 }\r\n");
-    scene.doubles.dialogs.type(QStringLiteral("Pat Doe"));
-    scene.doubles.dialogs.answer(MessageAnswer::Yes);
+    scene.dialogs.type(QStringLiteral("Pat Doe"));
+    scene.dialogs.answer(MessageAnswer::Yes);
     auto* screen = new Pubdat(scene.context);
     return scene.screens.programEnded() ? nullptr : screen;
 });

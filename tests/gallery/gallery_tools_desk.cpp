@@ -29,7 +29,7 @@ const GalleryEntry calculator("tools_desk_calculator", [](GalleryScene& scene) -
 
 // An alarm set twenty minutes ahead, the clock showing the time now.
 const GalleryEntry alarm("tools_desk_alarm_set", [](GalleryScene& scene) -> QWidget* {
-    scene.doubles.clock.setDateTime(2026, 11, 19, 14, 15, 30);
+    scene.clock.setDateTime(2026, 11, 19, 14, 15, 30);
     auto* screen = new AlarmForm(scene.context);
     screen->List1->setCurrentRow(1);
     screen->Command1_Click(3);

@@ -6,7 +6,6 @@
 #include "exam/exam_session.h"
 #include "reports/scoring.h"
 #include "scoring_exam.h"
-#include "tests/exam/exam_fixture.h"
 #include "tests/support/report_card_driver.h"
 #include "tests/support/screen_fixture.h"
 
@@ -85,7 +84,7 @@ private:
 private Q_SLOTS:
     void init() {
         f = std::make_unique<ScreenFixture>();
-        testing::MakeCourse(f->state, {4, 3, 5, 2, 2, 2, 2, 2, 3}, {6, 5});
+        FillSmallCourse(f->state);
     }
     void cleanup() {
         card.reset();

@@ -1,19 +1,30 @@
 #pragma once
-// What a screen test gives the screen it opens: a study folder of its own as the current
-// directory, the doubles, a session, and a host that records what the screen asks of it.
+// What a screen is given in a test: the study fixture, a host that records what the screen asks
+// of it, and the context that joins them.
 
-#include "platform/services.h"
 #include "tests/support/recording_screens.h"
-#include "tests/support/study_folder.h"
-#include "tests/support/test_services.h"
+#include "tests/support/study_fixture.h"
+
+#include <QString>
+#include <QWidget>
 
 namespace tessera {
 
-struct ScreenFixture : TestServices {
-    StudyFolder folder;
-    SessionState state;
+struct ScreenFixture : StudyFixture {
     RecordingScreenHost screens;
     ScreenContext context{state, services, screens};
 };
+
+// The control of that object name on the screen; a missing one ends the test program.
+template <class T> T* Control(const QWidget* screen, const QString& name) {
+    T* found = screen->findChild<T*>(name);
+    if (found == nullptr)
+        qFatal("no control %s", qPrintable(name));
+    return found;
+}
+
+template <class T> T* Control(const QWidget* screen, const char* name) {
+    return Control<T>(screen, QString::fromLatin1(name));
+}
 
 } // namespace tessera

@@ -1,8 +1,7 @@
 // The alarm clock on screen: setting by time and by minutes ahead, sounding once a setting,
 // the minimized title, setting the computer's clock, and closing that cancels the alarm.
 
-#include "tests/support/recording_screens.h"
-#include "tests/support/test_services.h"
+#include "tests/support/screen_fixture.h"
 #include "tools/alarm_form.h"
 
 #include <QGroupBox>
@@ -21,10 +20,7 @@ class AlarmFormTest : public QObject {
     Q_OBJECT
 
 private:
-    std::unique_ptr<TestServices> doubles;
-    SessionState state;
-    RecordingScreenHost screens;
-    std::unique_ptr<ScreenContext> context;
+    std::unique_ptr<ScreenFixture> f;
     std::unique_ptr<AlarmForm> form;
 
     const QString notValid =
@@ -33,25 +29,26 @@ private:
         QStringLiteral("The time you entered has already gone by today.\r\nPlease try again.");
 
     void setTime(int hours, int minutes, int seconds) {
-        doubles->clock.setDateTime(2026, 11, 19, hours, minutes, seconds);
+        f->clock.setDateTime(2026, 11, 19, hours, minutes, seconds);
     }
 
     void tickAfter(double seconds) {
-        doubles->clock.advanceSeconds(seconds);
+        f->clock.advanceSeconds(seconds);
         form->Timer1_Timer();
     }
 
 private Q_SLOTS:
     void init() {
-        doubles = std::make_unique<TestServices>();
-        state = SessionState{};
-        state.UserName = "Pat Rivera" + std::string(20, ' ');
-        context = std::make_unique<ScreenContext>(ScreenContext{state, doubles->services, screens});
+        f = std::make_unique<ScreenFixture>();
+        f->state.UserName = "Pat Rivera" + std::string(20, ' ');
         setTime(15, 0, 0);
-        form = std::make_unique<AlarmForm>(*context);
+        form = std::make_unique<AlarmForm>(f->context);
     }
 
-    void cleanup() { form.reset(); }
+    void cleanup() {
+        form.reset();
+        f.reset();
+    }
 
     void opensWithNoAlarm() {
         QCOMPARE(form->windowTitle(), QStringLiteral("Alarm Clock"));
@@ -70,16 +67,16 @@ private Q_SLOTS:
 
     void setAlarmPromptsUntilAUsableTime() {
         for (const char* typed : {"25:00", "2:00", "14:00", "4:00 PM"})
-            doubles->dialogs.type(QString::fromLatin1(typed));
+            f->dialogs.type(QString::fromLatin1(typed));
         form->Command1[0]->click();
-        const auto& inputs = doubles->dialogs.inputs();
+        const auto& inputs = f->dialogs.inputs();
         QCOMPARE(inputs.size(), size_t{4});
         QCOMPARE(inputs[0].title, QStringLiteral("Set Alarm Clock"));
         QCOMPARE(inputs[0].prompt,
                  QStringLiteral("Use any 12-or 24-hour clock time. If AM or PM is omitted from "
                                 "the 12-hour clock time, AM is assumed.\r\n\r\nEnter alarm "
                                 "setting\r\n(hh:mm)."));
-        const auto& shown = doubles->dialogs.messages();
+        const auto& shown = f->dialogs.messages();
         QCOMPARE(shown.size(), size_t{3});
         QCOMPARE(shown[0].text, notValid);
         QCOMPARE(shown[0].title, QStringLiteral("Sorry!"));
@@ -96,24 +93,24 @@ private Q_SLOTS:
     }
 
     void soundsOnceASettingAndAgainNextDay() {
-        doubles->dialogs.type(QStringLiteral("15:00:02"));
+        f->dialogs.type(QStringLiteral("15:00:02"));
         form->Command1[0]->click();
         tickAfter(1);
         QCOMPARE(form->lblTime->text(), QStringLiteral("3:00:01 PM"));
-        QVERIFY(doubles->sound.tones().empty());
+        QVERIFY(f->sound.tones().empty());
         tickAfter(1);
-        QCOMPARE(doubles->sound.tones(), (std::vector<Tone>{{1760, 800}}));
-        const ShownMessage& alarm = doubles->dialogs.messages().back();
+        QCOMPARE(f->sound.tones(), (std::vector<Tone>{{1760, 800}}));
+        const ShownMessage& alarm = f->dialogs.messages().back();
         QCOMPARE(alarm.text, QStringLiteral("Alarm at 3:00:02 PM"));
         QCOMPARE(alarm.title, QStringLiteral("Hello, Pat Rivera"));
         QCOMPARE(alarm.icon, MessageIcon::Exclamation);
         QVERIFY(form->Image1->isHidden());
         tickAfter(1);
         tickAfter(3600);
-        QCOMPARE(doubles->sound.tones().size(), size_t{1});
+        QCOMPARE(f->sound.tones().size(), size_t{1});
         tickAfter(12 * 3600); // past midnight the setting waits again
         tickAfter(12 * 3600 - 3600);
-        QCOMPARE(doubles->sound.tones().size(), size_t{2});
+        QCOMPARE(f->sound.tones().size(), size_t{2});
     }
 
     void autoSetAcrossMidnightSoundsAtTheNextSecond() {
@@ -123,14 +120,14 @@ private Q_SLOTS:
         QCOMPARE(form->Label1->text(), QStringLiteral("12:05:00 AM"));
         QVERIFY(!form->Image1->isHidden());
         tickAfter(1);
-        QCOMPARE(doubles->sound.tones().size(), size_t{1});
+        QCOMPARE(f->sound.tones().size(), size_t{1});
     }
 
     void minimizedTitleShowsTheChosenTime() {
         form->show();
         form->showMinimized();
         QCOMPARE(form->windowTitle(), QStringLiteral("03:00 PM"));
-        doubles->dialogs.type(QStringLiteral("5:30 PM"));
+        f->dialogs.type(QStringLiteral("5:30 PM"));
         form->Command1[0]->click();
         form->Option1[1]->setChecked(true);
         tickAfter(30); // same minute: the title stays
@@ -142,26 +139,26 @@ private Q_SLOTS:
     }
 
     void setClockSetsTheTimeOfDayOnly() {
-        doubles->dialogs.type(QStringLiteral("7:30 PM"));
+        f->dialogs.type(QStringLiteral("7:30 PM"));
         form->Command1[1]->click();
-        QCOMPARE(doubles->dialogs.inputs()[0].title, QStringLiteral("Set Computer Clock"));
-        QVERIFY(doubles->dialogs.inputs()[0].prompt.endsWith(
+        QCOMPARE(f->dialogs.inputs()[0].title, QStringLiteral("Set Computer Clock"));
+        QVERIFY(f->dialogs.inputs()[0].prompt.endsWith(
             QStringLiteral("\r\n\r\nEnter current time\r\n(hh:mm).")));
-        QCOMPARE(doubles->clock.timesSet(), (std::vector<TimeOfDay>{{19, 30, 0}}));
+        QCOMPARE(f->clock.timesSet(), (std::vector<TimeOfDay>{{19, 30, 0}}));
         QCOMPARE(form->lblTime->text(), QStringLiteral("7:30:00 PM"));
         // Not a time: one message and no new prompt.
-        doubles->dialogs.type(QStringLiteral("half past"));
+        f->dialogs.type(QStringLiteral("half past"));
         form->Command1[1]->click();
-        QCOMPARE(doubles->dialogs.inputs().size(), size_t{2});
-        QCOMPARE(doubles->dialogs.messages().back().text, notValid);
-        QCOMPARE(doubles->clock.timesSet().size(), size_t{1});
+        QCOMPARE(f->dialogs.inputs().size(), size_t{2});
+        QCOMPARE(f->dialogs.messages().back().text, notValid);
+        QCOMPARE(f->clock.timesSet().size(), size_t{1});
     }
 
     void closingCancelsTheAlarm() {
         QWidget menu;
-        screens.place(ScreenName::ButtonMenu, &menu);
+        f->screens.place(ScreenName::ButtonMenu, &menu);
         menu.showMinimized();
-        doubles->dialogs.type(QStringLiteral("18:00"));
+        f->dialogs.type(QStringLiteral("18:00"));
         form->Command1[0]->click();
         form->show();
         form->Command1[2]->click();

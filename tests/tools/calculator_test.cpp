@@ -1,7 +1,6 @@
 // The calculator on screen: its captions, keys wherever the focus stands, and its messages.
 
-#include "tests/support/recording_screens.h"
-#include "tests/support/test_services.h"
+#include "tests/support/screen_fixture.h"
 #include "tools/calculator.h"
 
 #include <QApplication>
@@ -17,10 +16,7 @@ class CalculatorTest : public QObject {
     Q_OBJECT
 
 private:
-    std::unique_ptr<TestServices> doubles;
-    SessionState state;
-    RecordingScreenHost screens;
-    std::unique_ptr<ScreenContext> context;
+    std::unique_ptr<ScreenFixture> f;
     std::unique_ptr<Calculator> calculator;
 
     QPushButton* button(const char* name) const {
@@ -29,16 +25,17 @@ private:
 
 private Q_SLOTS:
     void init() {
-        doubles = std::make_unique<TestServices>();
-        screens.clearCalls();
-        context = std::make_unique<ScreenContext>(ScreenContext{state, doubles->services, screens});
-        calculator = std::make_unique<Calculator>(*context);
+        f = std::make_unique<ScreenFixture>();
+        calculator = std::make_unique<Calculator>(f->context);
         calculator->show();
         calculator->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(calculator.get()));
     }
 
-    void cleanup() { calculator.reset(); }
+    void cleanup() {
+        calculator.reset();
+        f.reset();
+    }
 
     void opensWithItsCaptions() {
         QCOMPARE(calculator->windowTitle(), QStringLiteral("Calculator"));
@@ -84,7 +81,7 @@ private Q_SLOTS:
         QTest::keyClicks(button("Number_1"), QStringLiteral("4"));
         QTest::keyClick(button("Number_1"), Qt::Key_F9);
         QTest::keyClicks(button("Number_1"), QStringLiteral("@"));
-        const auto& shown = doubles->dialogs.messages();
+        const auto& shown = f->dialogs.messages();
         QCOMPARE(shown.size(), size_t{2});
         QCOMPARE(shown[0].text, QStringLiteral("Can't divide by zero"));
         QCOMPARE(shown[0].title, QStringLiteral("Calculator"));
@@ -101,10 +98,10 @@ private Q_SLOTS:
         QTest::keyClicks(button("Number_1"), QStringLiteral("5"));
         QTest::keyClick(button("Number_1"), Qt::Key_Escape);
         button("Command1_2")->click();
-        QCOMPARE(state.HelpTopic, 15);
+        QCOMPARE(f->state.HelpTopic, 15);
         const std::vector<ScreenCall> expected = {{ScreenCallKind::Unload, ScreenName::Help},
                                                   {ScreenCallKind::Show, ScreenName::Help}};
-        QCOMPARE(screens.calls(), expected);
+        QCOMPARE(f->screens.calls(), expected);
         QCOMPARE(calculator->machine().clearPresses(), 0);
     }
 };

@@ -3,10 +3,10 @@
 
 #include "app/application.h"
 #include "platform/rich_text_view.h"
+#include "tests/support/small_course.h"
 #include "tests/support/test_services.h"
 #include "tools/help.h"
 #include "tools/screen_openers.h"
-#include "tools_course.h"
 
 #include <QApplication>
 #include <QtTest>
@@ -36,7 +36,7 @@ private Q_SLOTS:
     void pressedTwiceLeavesOneWindowOnTheTopic() {
         TestServices doubles;
         Application app(doubles.services);
-        FillToolsCourse(app.state());
+        FillSmallCourse(app.state());
 
         OpenHelpComparing(app, app.state(), 7);
         Help* first = qobject_cast<Help*>(app.find(ScreenName::Help));
@@ -61,7 +61,7 @@ private Q_SLOTS:
     void maximisedShowsTheLargeVersionAndTakesNoTyping() {
         TestServices doubles;
         Application app(doubles.services);
-        FillToolsCourse(app.state());
+        FillSmallCourse(app.state());
         app.state().HelpTopic = 5;
         auto* help = qobject_cast<Help*>(app.show(ScreenName::Help));
         QVERIFY(help != nullptr);

@@ -4,8 +4,7 @@
 
 #include "platform/rich_text_view.h"
 #include "tests/support/faulty_files.h"
-#include "tests/support/recording_screens.h"
-#include "tests/support/test_services.h"
+#include "tests/support/screen_fixture.h"
 #include "tools/note_book.h"
 
 #include <QCheckBox>
@@ -25,10 +24,7 @@ class NoteBookTest : public QObject {
     Q_OBJECT
 
 private:
-    TestServices doubles;
-    SessionState state;
-    RecordingScreenHost screens;
-    ScreenContext context{state, doubles.services, screens};
+    std::unique_ptr<ScreenFixture> f;
 
     void writeNoteBook(const char* body) {
         QFile file(QStringLiteral("TesseraNoteBook.RTF"));
@@ -42,7 +38,7 @@ private:
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
     std::unique_ptr<NoteBook> open() {
-        auto notebook = std::make_unique<NoteBook>(context);
+        auto notebook = std::make_unique<NoteBook>(f->context);
         notebook->show();
         return notebook;
     }
@@ -53,42 +49,41 @@ private:
 
 private Q_SLOTS:
     void init() {
-        state = SessionState{};
-        FillCatalogue(state);
+        f = std::make_unique<ScreenFixture>();
         writeNoteBook("Contracts: offer and acceptance.");
-        doubles.dialogs = ScriptedDialogs{};
     }
+    void cleanup() { f.reset(); }
 
     void changesAreSavedOnYesAndReadBack() {
         auto notebook = open();
         QCOMPARE(notebook->windowTitle(), QStringLiteral("Your Notebook"));
-        QVERIFY(!state.NoteBookChanged);
+        QVERIFY(!f->state.NoteBookChanged);
         typeAtEnd(*notebook, QStringLiteral(" Consideration too."));
-        QVERIFY(state.NoteBookChanged);
+        QVERIFY(f->state.NoteBookChanged);
 
-        doubles.dialogs.answer(MessageAnswer::Yes);
+        f->dialogs.answer(MessageAnswer::Yes);
         notebook->close();
-        QCOMPARE(doubles.dialogs.messages().size(), size_t{1});
-        const ShownMessage& asked = doubles.dialogs.messages().front();
+        QCOMPARE(f->dialogs.messages().size(), size_t{1});
+        const ShownMessage& asked = f->dialogs.messages().front();
         QCOMPARE(asked.text, QStringLiteral("Save your changes to disk?"));
         QCOMPARE(asked.title, QStringLiteral("Change Detected!"));
         QCOMPARE(asked.buttons, MessageButtons::YesNo);
-        QVERIFY(!state.NoteBookChanged);
+        QVERIFY(!f->state.NoteBookChanged);
 
         notebook = open();
         const QString reread = notebook->RichTextBox1->text();
         QVERIFY(reread.startsWith(QStringLiteral("Contracts: offer and acceptance.")));
         QVERIFY(reread.contains(QStringLiteral(" Consideration too.")));
         notebook->close(); // nothing changed: no question
-        QCOMPARE(doubles.dialogs.messages().size(), size_t{1});
+        QCOMPARE(f->dialogs.messages().size(), size_t{1});
     }
 
     void answeringNoKeepsTheFileAndClearsTheFlag() {
         auto notebook = open();
         typeAtEnd(*notebook, QStringLiteral(" Scratch."));
-        doubles.dialogs.answer(MessageAnswer::No);
+        f->dialogs.answer(MessageAnswer::No);
         notebook->close();
-        QVERIFY(!state.NoteBookChanged); // the end of the program won't ask again
+        QVERIFY(!f->state.NoteBookChanged); // the end of the program won't ask again
         notebook = open();
         QVERIFY(!notebook->RichTextBox1->text().contains(QStringLiteral("Scratch")));
     }
@@ -142,14 +137,14 @@ private Q_SLOTS:
         default:
             view.cut();
             QVERIFY(notebook->SaveNoteBook());
-            state.NoteBookChanged = false; // as the end of the program leaves it
+            f->state.NoteBookChanged = false; // as the end of the program leaves it
             view.undo();
             break;
         }
-        QVERIFY(state.NoteBookChanged);
-        doubles.dialogs.answer(MessageAnswer::No);
+        QVERIFY(f->state.NoteBookChanged);
+        f->dialogs.answer(MessageAnswer::No);
         notebook->close();
-        QCOMPARE(doubles.dialogs.titles(), QStringList{QStringLiteral("Change Detected!")});
+        QCOMPARE(f->dialogs.titles(), QStringList{QStringLiteral("Change Detected!")});
     }
 
     void aFailedSaveIsToldAndKeepsTheNotesOpen() {
@@ -157,16 +152,16 @@ private Q_SLOTS:
         auto notebook = open();
         typeAtEnd(*notebook, QStringLiteral(" Escrow."));
         FaultyFiles full(FaultyFiles::Fault::DiskFull, 1);
-        doubles.dialogs.answer(MessageAnswer::Yes);
+        f->dialogs.answer(MessageAnswer::Yes);
         notebook->close();
-        const ShownMessage& told = doubles.dialogs.messages().back();
+        const ShownMessage& told = f->dialogs.messages().back();
         QCOMPARE(told.title, QStringLiteral("Notebook Not Saved"));
         QCOMPARE(told.text, QStringLiteral("Your notebook could not be written to "
                                            "TesseraNoteBook.RTF. Make sure the study folder can "
                                            "be written to and has room, then save your notes "
                                            "again."));
         QVERIFY(notebook->isVisible());
-        QVERIFY(state.NoteBookChanged);
+        QVERIFY(f->state.NoteBookChanged);
         QCOMPARE(readNoteBook(), before);
     }
 
@@ -200,19 +195,19 @@ private Q_SLOTS:
         notebook->Text1->setText(QStringLiteral("LEASE"));
         QTest::mouseClick(notebook->Command2[0], Qt::LeftButton);
         QCOMPARE(notebook->RichTextBox1->selStart(), 33);
-        QVERIFY(doubles.dialogs.messages().empty());
+        QVERIFY(f->dialogs.messages().empty());
 
         notebook->Text1->setText(QStringLiteral("easement"));
         QTest::mouseClick(notebook->Command2[0], Qt::LeftButton);
-        QCOMPARE(doubles.dialogs.messages().size(), size_t{1});
-        QCOMPARE(doubles.dialogs.messages().front().text, QStringLiteral("easement not found."));
-        QCOMPARE(doubles.dialogs.messages().front().title, QStringLiteral("Sorry!"));
+        QCOMPARE(f->dialogs.messages().size(), size_t{1});
+        QCOMPARE(f->dialogs.messages().front().text, QStringLiteral("easement not found."));
+        QCOMPARE(f->dialogs.messages().front().title, QStringLiteral("Sorry!"));
         QCOMPARE(notebook->focusWidget(), notebook->Text1);
 
         QTest::mouseClick(notebook->Command2[1], Qt::LeftButton);
         QVERIFY(!notebook->Frame1->isVisible());
         QVERIFY(notebook->Command1[2]->isEnabled());
-        QVERIFY(!state.NoteBookChanged); // searching changes nothing
+        QVERIFY(!f->state.NoteBookChanged); // searching changes nothing
     }
 };
 

@@ -1,9 +1,7 @@
 // The review test options dialog: what it shows, what it limits, and what it saves.
 
 #include "tests/support/faulty_files.h"
-#include "tests/support/recording_screens.h"
-#include "tests/support/study_folder.h"
-#include "tests/support/test_services.h"
+#include "tests/support/screen_fixture.h"
 #include "tools/preferences.h"
 
 #include <QCheckBox>
@@ -21,11 +19,7 @@ class PreferencesTest : public QObject {
     Q_OBJECT
 
 private:
-    std::unique_ptr<StudyFolder> folder;
-    std::unique_ptr<TestServices> doubles;
-    SessionState state;
-    RecordingScreenHost screens;
-    std::unique_ptr<ScreenContext> context;
+    std::unique_ptr<ScreenFixture> f;
 
     // A 940-byte header full of marks, so a stray write shows.
     std::string markedHeader() const {
@@ -37,19 +31,15 @@ private:
 private Q_SLOTS:
     void init() {
         // The old folder gives the current directory back before the new one takes it.
-        folder.reset();
-        folder = std::make_unique<StudyFolder>();
-        doubles = std::make_unique<TestServices>();
-        state = SessionState{};
-        state.ScrambleQuestions = true;
-        state.TimerActive = true;
-        state.PassingGrade = 70;
-        context = std::make_unique<ScreenContext>(ScreenContext{state, doubles->services, screens});
-        folder->write("TesseraConfig.MS", markedHeader());
+        f.reset();
+        f = std::make_unique<ScreenFixture>();
+        f->state.ScrambleQuestions = true;
+        f->state.TimerActive = true;
+        f->folder.write("TesseraConfig.MS", markedHeader());
     }
 
     void loadsTheOptionsWithNothingPending() {
-        Preferences dialog(*context);
+        Preferences dialog(f->context);
         QCOMPARE(dialog.windowTitle(), QStringLiteral("Review Test Options"));
         QVERIFY(dialog.Check1->isChecked());
         QVERIFY(!dialog.Check2->isChecked());
@@ -86,7 +76,7 @@ private Q_SLOTS:
         QFETCH(QString, typed);
         QFETCH(QString, shown);
         QFETCH(int, saved);
-        Preferences dialog(*context);
+        Preferences dialog(f->context);
         dialog.Check5->click();
         dialog.Text1->clear();
         QTest::keyClicks(dialog.Text1, typed);
@@ -96,7 +86,7 @@ private Q_SLOTS:
     }
 
     void saveWritesTheFiveOptionBytesAndNothingElse() {
-        auto* dialog = new Preferences(*context);
+        auto* dialog = new Preferences(f->context);
         dialog->setAttribute(Qt::WA_DeleteOnClose);
         dialog->Check1->click();
         dialog->Check2->click();
@@ -107,59 +97,59 @@ private Q_SLOTS:
         QPointer<Preferences> watch(dialog);
         dialog->Command1->click();
         QTRY_VERIFY(watch.isNull());
-        QVERIFY(doubles->dialogs.messages().empty());
-        QVERIFY(!state.ScrambleQuestions && state.SoundOn && state.TimerActive);
-        QVERIFY(!state.IncludeProgressReport);
-        QCOMPARE(state.PassingGrade, 85);
+        QVERIFY(f->dialogs.messages().empty());
+        QVERIFY(!f->state.ScrambleQuestions && f->state.SoundOn && f->state.TimerActive);
+        QVERIFY(!f->state.IncludeProgressReport);
+        QCOMPARE(f->state.PassingGrade, 85);
         std::string expected = markedHeader();
         expected.replace(0, 5, std::string("\x00\x01\x01\x00\x55", 5));
-        QVERIFY(folder->read("TesseraConfig.MS") == expected);
+        QVERIFY(f->folder.read("TesseraConfig.MS") == expected);
     }
 
     void aFailedSaveIsToldAndTheFileKept() {
-        const std::string before = folder->read("TesseraConfig.MS");
-        Preferences dialog(*context);
+        const std::string before = f->folder.read("TesseraConfig.MS");
+        Preferences dialog(f->context);
         dialog.Check2->click();
         {
             FaultyFiles full(FaultyFiles::Fault::DiskFull, 1);
             dialog.Command1->click();
         }
-        QCOMPARE(doubles->dialogs.titles(), QStringList{QStringLiteral("Preferences Not Saved")});
-        QVERIFY(state.SoundOn); // for this run
-        QVERIFY(folder->read("TesseraConfig.MS") == before);
+        QCOMPARE(f->dialogs.titles(), QStringList{QStringLiteral("Preferences Not Saved")});
+        QVERIFY(f->state.SoundOn); // for this run
+        QVERIFY(f->folder.read("TesseraConfig.MS") == before);
     }
 
     void closingWithChangesAsksWhetherToSave() {
         for (const MessageAnswer answer : {MessageAnswer::No, MessageAnswer::Yes}) {
             init();
-            Preferences dialog(*context);
+            Preferences dialog(f->context);
             dialog.Check2->click();
-            doubles->dialogs.answer(answer);
+            f->dialogs.answer(answer);
             dialog.Command2->click();
-            QCOMPARE(doubles->dialogs.messages().size(), size_t{1});
-            const ShownMessage& shown = doubles->dialogs.messages()[0];
+            QCOMPARE(f->dialogs.messages().size(), size_t{1});
+            const ShownMessage& shown = f->dialogs.messages()[0];
             QCOMPARE(shown.text, QStringLiteral("Save your preference changes?"));
             QCOMPARE(shown.title, QStringLiteral("Change in Preferences Detected!"));
             QCOMPARE(shown.buttons, MessageButtons::YesNo);
-            QCOMPARE(state.SoundOn, answer == MessageAnswer::Yes);
-            QCOMPARE(folder->read("TesseraConfig.MS")[1], answer == MessageAnswer::Yes ? 1 : 0);
+            QCOMPARE(f->state.SoundOn, answer == MessageAnswer::Yes);
+            QCOMPARE(f->folder.read("TesseraConfig.MS")[1], answer == MessageAnswer::Yes ? 1 : 0);
         }
     }
 
     void cancelWithoutChangesAsksNothing() {
-        Preferences dialog(*context);
+        Preferences dialog(f->context);
         dialog.Command2->click();
-        QVERIFY(doubles->dialogs.messages().empty());
-        QVERIFY(folder->read("TesseraConfig.MS") == markedHeader());
+        QVERIFY(f->dialogs.messages().empty());
+        QVERIFY(f->folder.read("TesseraConfig.MS") == markedHeader());
     }
 
     void helpOpensTopicThreeAfresh() {
-        Preferences dialog(*context);
+        Preferences dialog(f->context);
         dialog.Command3->click();
-        QCOMPARE(state.HelpTopic, 3);
+        QCOMPARE(f->state.HelpTopic, 3);
         const std::vector<ScreenCall> expected = {{ScreenCallKind::Unload, ScreenName::Help},
                                                   {ScreenCallKind::ShowModal, ScreenName::Help}};
-        QCOMPARE(screens.calls(), expected);
+        QCOMPARE(f->screens.calls(), expected);
     }
 };
 

@@ -2,10 +2,8 @@
 // panel with its wrap round, and the discussion text's title, printing and help.
 
 #include "platform/rich_text_view.h"
-#include "tests/support/recording_screens.h"
-#include "tests/support/test_services.h"
+#include "tests/support/screen_fixture.h"
 #include "tools/viewing.h"
-#include "tools_course.h"
 
 #include <QCheckBox>
 #include <QGroupBox>
@@ -24,16 +22,11 @@ class ViewingTest : public QObject {
     Q_OBJECT
 
 private:
-    TestServices doubles;
-    SessionState state;
-    RecordingScreenHost screens;
-    ScreenContext context{state, doubles.services, screens};
+    std::unique_ptr<ScreenFixture> f;
 
     std::unique_ptr<Viewing> open(int section) {
-        state = SessionState{};
-        FillToolsCourse(state);
-        state.ViewerSection = static_cast<int16_t>(section);
-        auto viewing = std::make_unique<Viewing>(context);
+        f->state.ViewerSection = static_cast<int16_t>(section);
+        auto viewing = std::make_unique<Viewing>(f->context);
         viewing->show();
         return viewing;
     }
@@ -46,6 +39,9 @@ private:
     static constexpr int M = 12, Q = 16, T = 19, Z = 25;
 
 private Q_SLOTS:
+    void init() { f = std::make_unique<ScreenFixture>(); }
+    void cleanup() { f.reset(); }
+
     void letterButtonsFindTheFirstTermOfTheirLetter() {
         auto viewing = open(Viewing::GlossarySection);
         QCOMPARE(viewing->windowTitle(), QStringLiteral("Glossary of Key Terms"));
@@ -106,8 +102,8 @@ private Q_SLOTS:
         // Terms only: the whole list is searched once, then "Sorry!".
         viewing->Text2->setText(QStringLiteral("hidden needle"));
         QTest::mouseClick(viewing->Command1[4], Qt::LeftButton);
-        QCOMPARE(doubles.dialogs.messages().size(), size_t{1});
-        const ShownMessage& sorry = doubles.dialogs.messages().front();
+        QCOMPARE(f->dialogs.messages().size(), size_t{1});
+        const ShownMessage& sorry = f->dialogs.messages().front();
         QCOMPARE(sorry.text, QStringLiteral("hidden needle not found."));
         QCOMPARE(sorry.title, QStringLiteral("Sorry!"));
         QCOMPARE(sorry.icon, MessageIcon::Question);
@@ -124,7 +120,7 @@ private Q_SLOTS:
         viewing->Check1->setChecked(true);
         viewing->Text2->setText(QStringLiteral("Hidden Needle"));
         QTest::mouseClick(viewing->Command1[4], Qt::LeftButton);
-        QCOMPARE(doubles.dialogs.messages().size(), size_t{2});
+        QCOMPARE(f->dialogs.messages().size(), size_t{2});
 
         QTest::mouseClick(viewing->Command1[5], Qt::LeftButton);
         QVERIFY(!viewing->Frame1->isVisible());
@@ -146,25 +142,23 @@ private Q_SLOTS:
         QCOMPARE(viewing->RichTextBox1->text(), before);
 
         // Help on a text is topic 4, and a help window on another topic goes first.
-        state.HelpTopic = 9;
-        screens.clearCalls();
+        f->state.HelpTopic = 9;
+        f->screens.clearCalls();
         QTest::mouseClick(viewing->Command1[3], Qt::LeftButton);
-        QCOMPARE(state.HelpTopic, 4);
-        QCOMPARE(screens.calls(),
+        QCOMPARE(f->state.HelpTopic, 4);
+        QCOMPARE(f->screens.calls(),
                  (std::vector<ScreenCall>{{ScreenCallKind::Unload, ScreenName::Help},
                                           {ScreenCallKind::Show, ScreenName::Help}}));
-        screens.clearCalls();
+        f->screens.clearCalls();
         QTest::mouseClick(viewing->Command1[3], Qt::LeftButton);
-        QCOMPARE(screens.calls(),
+        QCOMPARE(f->screens.calls(),
                  (std::vector<ScreenCall>{{ScreenCallKind::Show, ScreenName::Help}}));
     }
 
     void printerProblemLeavesTheTextUnprintable() {
-        state = SessionState{};
-        FillToolsCourse(state);
-        state.PrinterProblem = true;
-        state.ViewerSection = 2;
-        Viewing viewing(context);
+        f->state.PrinterProblem = true;
+        f->state.ViewerSection = 2;
+        Viewing viewing(f->context);
         QVERIFY(!viewing.Command1[0]->isEnabled());
     }
 };
