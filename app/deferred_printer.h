@@ -18,6 +18,7 @@ public:
     void setFontSize(double points) override { printer().setFontSize(points); }
     void setFontBold(bool bold) override { printer().setFontBold(bold); }
     void printLine(const QString& text, int column) override { printer().printLine(text, column); }
+    void printColumns(const QList<ColumnText>& texts) override { printer().printColumns(texts); }
     void newPage() override { printer().newPage(); }
     void printDocument(const QTextDocument& document) override {
         printer().printDocument(document);

@@ -4,6 +4,8 @@
 #include "exam/exam_format.h"
 #include "exam/exam_items.h"
 #include "exam/exam_widgets.h"
+#include "exam/results_print.h"
+#include "platform/clock.h"
 #include "platform/control_names.h"
 #include "platform/dialogs.h"
 #include "platform/picture_window.h"
@@ -25,9 +27,9 @@ Results::Results(ScreenContext& context) : m_context(context) {
     buildControls();
     SessionState& s = m_context.state;
     const ResultsTally tally = CountResults(s);
-    const auto lines = SummaryLines(tally, s.ExamItemCount, s.ExamElapsed);
+    m_summary = SummaryLines(tally, s.ExamItemCount, s.ExamElapsed);
     for (int i = 0; i < 6; ++i) {
-        Label1[i]->setText(Text(lines[i]));
+        Label1[i]->setText(Text(m_summary[i]));
         Label1[i]->setAccessibleName(Label1[i]->text().simplified());
     }
     fillList();
@@ -41,8 +43,7 @@ Results::Results(ScreenContext& context) : m_context(context) {
         ShowResultItem(1);
     }
     Command1[0]->setEnabled(s.ExamScrambled);
-    // Printing of exam results is not part of this build yet.
-    Command1[1]->setEnabled(false);
+    Command1[1]->setEnabled(!s.PrinterProblem);
     resize(780, 560);
 }
 
@@ -149,6 +150,13 @@ void Results::Command1_Click(int index) {
         List1->setFocus();
         break;
     }
+    case 1: // "&Print": once for each opening of the screen
+        if (PrintResults(m_context.services.printer,
+                         ResultsPrintOf(s, m_summary, m_context.services.clock.now()))) {
+            Command1[1]->setEnabled(false);
+            Command1[4]->setFocus();
+        }
+        break;
     case 2:
         if (QWidget* notebook = screens.show(ScreenName::NoteBook)) {
             notebook->showNormal();

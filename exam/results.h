@@ -40,6 +40,7 @@ private:
 
     ScreenContext& m_context;
     RtfVersions m_item; // ItemRtf and ItemRtfScaled
+    std::array<std::string, 6> m_summary;
     std::array<QLabel*, 6> Label1{};
     QListWidget* List1 = nullptr;
     RichTextView* RichTextBox1 = nullptr;

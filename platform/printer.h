@@ -1,6 +1,7 @@
 #pragma once
 // The print dialog and the printer: what every print command of the system asks for.
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -20,6 +21,12 @@ enum class PrintDialogKind {
 struct PrintChoice {
     int copies = 1;
     bool selectionOnly = false;
+};
+
+// A text and the column it starts at.
+struct ColumnText {
+    int column = 1;
+    QString text;
 };
 
 class Printer {
@@ -42,6 +49,9 @@ public:
     // Prints a text at a column and ends the line. Columns count from 1 in units of the current
     // font's average character. A CR LF inside the text starts a new line at column 1.
     virtual void printLine(const QString& text, int column = 1) = 0;
+    // Prints each text at its own column on one line and ends the line, so that texts in a
+    // proportional font still start under the heads above them.
+    virtual void printColumns(const QList<ColumnText>& texts) = 0;
     // The next text starts at the top of a new page.
     virtual void newPage() = 0;
     // Prints a rich text document from the top of a fresh page, as many pages as it takes.

@@ -9,7 +9,29 @@
 #include <QScreen>
 #include <QTextDocument>
 
+#include <array>
+
 namespace tessera {
+
+namespace {
+
+// A column is the font's average character as printers have long measured it: the advance of
+// the lower-case letters and the blank, weighted by how often each stands in English text. The
+// average a font declares today is taken over all its glyphs, and in a large proportional font
+// it is so wide that a table planned in columns runs off the page. In a fixed-pitch font both are
+// the width of every character.
+double ColumnWidth(const QFontMetricsF& metrics) {
+    static constexpr std::array<int, 26> weights = {64, 14, 27, 35, 100, 20, 14, 42, 63,
+                                                    3,  6,  35, 20, 56,  56, 17, 4,  49,
+                                                    56, 71, 31, 10, 18,  3,  18, 2};
+    constexpr int blankWeight = 166; // the weights add up to 1000
+    double width = blankWeight * metrics.horizontalAdvance(QLatin1Char(' '));
+    for (std::size_t i = 0; i < weights.size(); ++i)
+        width += weights[i] * metrics.horizontalAdvance(QLatin1Char(static_cast<char>('a' + i)));
+    return width / 1000.0;
+}
+
+} // namespace
 
 SystemPrinter::SystemPrinter() : m_printer(QPrinter::HighResolution) {}
 
@@ -96,27 +118,64 @@ QFont SystemPrinter::currentFont() const {
 }
 
 void SystemPrinter::printLine(const QString& text, int column) {
+    const QStringList lines = text.split(QStringLiteral("\r\n"));
+    for (qsizetype i = 0; i < lines.size(); ++i)
+        drawLine({{i == 0 ? column : 1, lines[i]}});
+}
+
+void SystemPrinter::printColumns(const QList<ColumnText>& texts) {
+    drawLine(texts);
+}
+
+void SystemPrinter::drawLine(const QList<ColumnText>& texts) {
     if (!beginJob())
         return;
     const QFont font(currentFont(), &m_printer);
     const QFontMetricsF metrics(font, &m_printer);
     const double pageHeight = m_printer.pageRect(QPrinter::DevicePixel).height();
     m_painter->setFont(font);
-    const QStringList lines = text.split(QStringLiteral("\r\n"));
-    for (qsizetype i = 0; i < lines.size() && m_ok; ++i) {
-        if (m_pageUsed && m_y + metrics.lineSpacing() > pageHeight)
-            newPage();
-        const int atColumn = i == 0 ? std::max(column, 1) : 1;
-        m_painter->drawText(
-            QPointF((atColumn - 1) * metrics.averageCharWidth(), m_y + metrics.ascent()), lines[i]);
-        m_y += metrics.lineSpacing();
-        m_pageUsed = true;
+    startPendingPages();
+    if (m_pageUsed && m_y + metrics.lineSpacing() > pageHeight)
+        startPage();
+    if (!m_ok)
+        return;
+    const double column = ColumnWidth(metrics);
+    const auto xOf = [column](const ColumnText& piece) {
+        return (std::max(piece.column, 1) - 1) * column;
+    };
+    for (qsizetype i = 0; i < texts.size(); ++i) {
+        const double x = xOf(texts[i]);
+        QString text = texts[i].text;
+        // A proportional text that would run into the next one is cut short, so both stay
+        // readable.
+        for (qsizetype next = i + 1; next < texts.size(); ++next) {
+            if (!texts[next].text.isEmpty()) {
+                const double room = xOf(texts[next]) - x - column / 2;
+                if (metrics.horizontalAdvance(text) > room)
+                    text = metrics.elidedText(text, Qt::ElideRight, std::max(room, 0.0));
+                break;
+            }
+        }
+        m_painter->drawText(QPointF(x, m_y + metrics.ascent()), text);
     }
+    m_y += metrics.lineSpacing();
+    m_pageUsed = true;
 }
 
 void SystemPrinter::newPage() {
-    if (!beginJob())
-        return;
+    if (beginJob())
+        ++m_pendingPages;
+}
+
+// A page asked for starts only when something is printed on it, so that a job that ends with a
+// new page leaves no blank sheet.
+void SystemPrinter::startPendingPages() {
+    for (; m_pendingPages > 0 && m_ok; --m_pendingPages)
+        startPage();
+    m_pendingPages = 0;
+}
+
+void SystemPrinter::startPage() {
     if (!m_printer.newPage())
         m_ok = false;
     m_y = 0;
@@ -126,8 +185,9 @@ void SystemPrinter::newPage() {
 void SystemPrinter::printDocument(const QTextDocument& document) {
     if (!beginJob())
         return;
+    startPendingPages();
     if (m_pageUsed)
-        newPage();
+        startPage();
     // The document is laid out as on screen and drawn scaled to the printer, so that indents and
     // tab stops, kept in screen pixels, keep their place beside the text.
     std::unique_ptr<QTextDocument> copy(document.clone());
@@ -140,7 +200,7 @@ void SystemPrinter::printDocument(const QTextDocument& document) {
     const int pages = copy->pageCount();
     for (int i = 0; i < pages && m_ok; ++i) {
         if (i > 0)
-            newPage();
+            startPage();
         m_painter->save();
         m_painter->scale(scale, scale);
         m_painter->translate(0, -i * pageInScreenUnits.height());
@@ -158,6 +218,7 @@ void SystemPrinter::endDoc() {
     m_painter.reset();
     m_y = 0;
     m_pageUsed = false;
+    m_pendingPages = 0;
 }
 
 } // namespace tessera

@@ -24,6 +24,7 @@ public:
     void setFontSize(double points) override;
     void setFontBold(bool bold) override;
     void printLine(const QString& text, int column) override;
+    void printColumns(const QList<ColumnText>& texts) override;
     void newPage() override;
     void printDocument(const QTextDocument& document) override;
     void endDoc() override;
@@ -35,6 +36,9 @@ public:
 private:
     bool beginJob();
     QFont currentFont() const;
+    void drawLine(const QList<ColumnText>& texts);
+    void startPendingPages();
+    void startPage();
 
     QPrinter m_printer;
     std::unique_ptr<QPainter> m_painter;
@@ -43,6 +47,7 @@ private:
     bool m_fontBold = false;
     double m_y = 0;          // top of the next line, in device pixels
     bool m_pageUsed = false; // something stands on the current page
+    int m_pendingPages = 0;  // new pages asked for and not yet started
     bool m_ok = true;
 };
 

@@ -187,11 +187,25 @@ private Q_SLOTS:
                  (QStringList{QStringLiteral("  1   B    B"), QStringLiteral("  2   B    C?"),
                               QStringLiteral("  3   A    ")}));
         QCOMPARE(results.windowTitle(), QStringLiteral("Custom Built Results, Item 1"));
-        QVERIFY(!Control<QPushButton>(&results, "Command1_1")->isEnabled());
         click(&results, "Command1_0");
         QCOMPARE(rows(&results, "List1").at(2), QStringLiteral("  3   B    B"));
         QCOMPARE(Control<QListWidget>(&results, "List1")->currentRow(), 2);
         QVERIFY(!Control<QPushButton>(&results, "Command1_0")->isEnabled());
+
+        // The print follows the sorted order, leaves out the key of an item not answered, and
+        // is offered once.
+        f->printer.dialogAnswer.reset();
+        click(&results, "Command1_1");
+        QVERIFY(Control<QPushButton>(&results, "Command1_1")->isEnabled());
+        f->printer.dialogAnswer = PrintChoice{};
+        click(&results, "Command1_1");
+        const std::vector<QString> page = f->printer.pageText(1);
+        QCOMPARE(page.at(0), QStringLiteral("     Custom Built Screening Exam Results"));
+        QCOMPARE(page.at(7).trimmed(), QStringLiteral("1       B          C?          3       B"
+                                                      "          B"));
+        QCOMPARE(page.at(8).trimmed(), QStringLiteral("2"));
+        QCOMPARE(page.at(16), QStringLiteral("  Correct          1   33.3%"));
+        QVERIFY(!Control<QPushButton>(&results, "Command1_1")->isEnabled());
         f->dialogs.answer(MessageAnswer::Cancel);
         f->dialogs.answer(MessageAnswer::Ok);
         click(&results, "Command1_4");
@@ -204,6 +218,10 @@ private Q_SLOTS:
         click(&results, "Command1_4");
         QCOMPARE(f->state.ExamPosition, int16_t(0));
         QCOMPARE(f->screens.calls().back(), unloadResults);
+
+        f->state.PrinterProblem = true;
+        Results withoutPrinter(f->context);
+        QVERIFY(!Control<QPushButton>(&withoutPrinter, "Command1_1")->isEnabled());
     }
 };
 

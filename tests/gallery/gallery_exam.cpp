@@ -7,6 +7,7 @@
 #include "exam/exam_test.h"
 #include "exam/results.h"
 #include "tests/gallery/gallery.h"
+#include "tests/gallery/gallery_print.h"
 
 #include <QListWidget>
 #include <QPushButton>
@@ -109,27 +110,43 @@ const GalleryEntry warning("exam_test_two_minute_warning",
 const GalleryEntry expired("exam_test_time_expired",
                            [](GalleryScene& scene) -> QWidget* { return Resumed(scene, 195.1); });
 
-const GalleryEntry results("exam_results", [](GalleryScene& scene) -> QWidget* {
+// A finished custom exam of the given length: mostly right, every fifth wrong, every ninth left
+// unanswered, some marked unsure.
+void FinishExam(GalleryScene& scene, int count) {
     scene.loadDefaultCourse();
     SessionState& s = scene.state;
+    s.UserName = "Pat Doe";
     s.ExamKind = s.ExamType = 3;
-    s.ExamItemCount = 40;
+    s.ExamItemCount = static_cast<int16_t>(count);
     s.ExamScrambled = true;
     s.ExamElapsed = (52 * 60 + 17) / 86400.0;
     int right = 0;
-    for (int p = 1; p <= 40; ++p) {
+    for (int p = 1; p <= count; ++p) {
         s.ExamItems[p] = static_cast<int16_t>((p * 37) % 700 + 1);
-        // Mostly right; every fifth wrong, every ninth left unanswered.
         const int key = ExamKeyOf(ExamItemText(s, p));
         const int answer = p % 9 == 0 ? 0 : (p % 5 == 0 ? key % 4 + 1 : key);
         s.ExamAnswers[p] = static_cast<int16_t>(answer);
         s.ExamUnsure[p] = answer != 0 && p % 6 == 0 ? 63 : 0;
         right += answer == key ? 1 : 0;
     }
-    s.ExamScore = static_cast<float>(right) / 40.0f;
+    s.ExamScore = static_cast<float>(right) / static_cast<float>(count);
+}
+
+const GalleryEntry results("exam_results", [](GalleryScene& scene) -> QWidget* {
+    FinishExam(scene, 40);
     auto* screen = new Results(scene.context);
     screen->findChild<QListWidget*>(QStringLiteral("List1"))->setCurrentRow(4);
     return screen;
+});
+
+// The first page of a 150-item exam: 110 items in two columns.
+const GalleryEntry printedResults("exam_results_printed", [](GalleryScene& scene) {
+    FinishExam(scene, 150);
+    return PrintedFirstPage(QStringLiteral("exam_results_printed"), [&scene](Printer& printer) {
+        PrintingContext paper(scene, printer);
+        Results results(paper.context);
+        results.findChild<QPushButton*>(QStringLiteral("Command1_1"))->click();
+    });
 });
 
 } // namespace

@@ -24,6 +24,7 @@ public:
     void setFontSize(double points) override { m_printer.setFontSize(points); }
     void setFontBold(bool bold) override { m_printer.setFontBold(bold); }
     void printLine(const QString& text, int column) override { m_printer.printLine(text, column); }
+    void printColumns(const QList<ColumnText>& texts) override { m_printer.printColumns(texts); }
     void newPage() override { m_printer.newPage(); }
     void printDocument(const QTextDocument& document) override {
         m_printer.printDocument(document);

@@ -3,6 +3,8 @@
 // first page turned into a picture by pdftoppm and shown as the entry's screen. The whole PDF
 // stays beside the pictures as <name>.pdf.
 
+#include "tests/gallery/gallery.h"
+
 #include <QString>
 
 #include <functional>
@@ -12,6 +14,18 @@ class QWidget;
 namespace tessera {
 
 class Printer;
+
+// The scene's shared state and doubles with a real printer in place of the recording one, so
+// that a screen's own print command reaches paper.
+struct PrintingContext {
+    PrintingContext(GalleryScene& scene, Printer& printer)
+        : services{scene.doubles.dialogs, scene.doubles.clock, scene.doubles.random,
+                   scene.doubles.sound, printer},
+          context{scene.state, services, scene.screens} {}
+
+    Services services;
+    ScreenContext context;
+};
 
 // Nothing when the PDF or its picture could not be made; the reason goes to stderr.
 QWidget* PrintedFirstPage(const QString& name, const std::function<void(Printer&)>& print);

@@ -26,6 +26,18 @@ void RecordingPrinter::printLine(const QString& text, int column) {
     }
 }
 
+void RecordingPrinter::printColumns(const QList<ColumnText>& texts) {
+    if (texts.isEmpty() || !working())
+        return;
+    const int first = texts.front().column;
+    QString line;
+    for (const ColumnText& piece : texts) {
+        if (!piece.text.isEmpty()) // an empty text leaves no mark on the line
+            line = line.leftJustified(piece.column - first) + piece.text;
+    }
+    lines.push_back({jobsEnded + 1, m_page, line, first, m_fontName, m_fontSize, m_bold});
+}
+
 void RecordingPrinter::newPage() {
     if (working())
         ++m_page;

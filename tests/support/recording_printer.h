@@ -42,6 +42,9 @@ public:
     void setFontSize(double points) override { m_fontSize = points; }
     void setFontBold(bool bold) override { m_bold = bold; }
     void printLine(const QString& text, int column) override;
+    // Recorded as one line, the later texts set at their columns with blanks as if every
+    // character were one column wide; an empty text adds nothing.
+    void printColumns(const QList<ColumnText>& texts) override;
     void newPage() override;
     void printDocument(const QTextDocument& document) override;
     void endDoc() override;
