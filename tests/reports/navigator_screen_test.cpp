@@ -5,10 +5,10 @@
 #include "reports/navigator.h"
 #include "reports/navigator_chart.h"
 #include "tests/support/recording_screens.h"
+#include "tests/support/screen_checks.h"
 #include "tests/support/study_folder.h"
 #include "tests/support/test_services.h"
 
-#include <QAccessible>
 #include <QApplication>
 #include <QLabel>
 #include <QPushButton>
@@ -219,21 +219,9 @@ private Q_SLOTS:
     void keyboardAndScreenReader() {
         open();
         showActive();
-        QSet<QChar> mnemonics;
-        for (QWidget* widget : navigator->findChildren<QWidget*>()) {
-            if (widget->objectName().isEmpty() ||
-                widget->objectName().startsWith(QStringLiteral("qt_")))
-                continue;
-            QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
-            QVERIFY2(accessible && !accessible->text(QAccessible::Name).isEmpty(),
-                     qPrintable(widget->objectName()));
-            if (auto* button = qobject_cast<QPushButton*>(widget)) {
-                const QChar key = button->text().at(button->text().indexOf(QLatin1Char('&')) + 1);
-                QVERIFY2(!mnemonics.contains(key.toLower()), qPrintable(button->text()));
-                mnemonics.insert(key.toLower());
-            }
-        }
-        QCOMPARE(mnemonics.size(), 3);
+        QCOMPARE(ControlsWithoutNames(*navigator), QStringList());
+        const QList<QChar> keys = ButtonMnemonics(*navigator);
+        QCOMPARE(keys, (QList<QChar>{u'p', u'h', u'd'}));
 
         QStringList order{QApplication::focusWidget()->objectName()};
         for (int i = 0; i < 4; ++i) {

@@ -5,8 +5,8 @@
 #include "review/item_scoring.h"
 #include "review/pict_form.h"
 #include "review/review_test.h"
+#include "tests/support/screen_checks.h"
 
-#include <QAccessible>
 #include <QProgressBar>
 
 namespace tessera {
@@ -52,25 +52,10 @@ private Q_SLOTS:
 
     void everyControlHasANameAndEachMnemonicOneButton() {
         auto quiz = open(1);
-        QSet<QChar> mnemonics;
-        for (QWidget* widget : quiz->screen().findChildren<QWidget*>()) {
-            // Controls are the named widgets; the text view's own parts are Qt's.
-            if (widget->objectName().isEmpty() ||
-                widget->objectName().startsWith(QStringLiteral("qt_")))
-                continue;
-            QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
-            QVERIFY2(accessible && !accessible->text(QAccessible::Name).isEmpty(),
-                     qPrintable(widget->objectName()));
-            if (auto* button = qobject_cast<QPushButton*>(widget)) {
-                const qsizetype amp = button->text().indexOf(QLatin1Char('&'));
-                if (amp < 0)
-                    continue;
-                const QChar key = button->text().at(amp + 1).toLower();
-                QVERIFY2(!mnemonics.contains(key), qPrintable(button->text()));
-                mnemonics.insert(key);
-            }
-        }
-        QCOMPARE(mnemonics.size(), 8);
+        QCOMPARE(ControlsWithoutNames(quiz->screen()), QStringList());
+        const QList<QChar> keys = ButtonMnemonics(quiz->screen());
+        QCOMPARE(QSet<QChar>(keys.begin(), keys.end()).size(), keys.size());
+        QCOMPARE(keys.size(), 8);
     }
 
     void cleanRunScoresEveryItemRightAtTheFirstTry() {

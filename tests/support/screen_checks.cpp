@@ -1,0 +1,31 @@
+#include "tests/support/screen_checks.h"
+
+#include <QAccessible>
+#include <QPushButton>
+
+namespace tessera {
+
+QStringList ControlsWithoutNames(const QWidget& screen) {
+    QStringList nameless;
+    for (QWidget* widget : screen.findChildren<QWidget*>()) {
+        if (widget->objectName().isEmpty() ||
+            widget->objectName().startsWith(QStringLiteral("qt_")))
+            continue;
+        QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
+        if (accessible == nullptr || accessible->text(QAccessible::Name).isEmpty())
+            nameless << widget->objectName();
+    }
+    return nameless;
+}
+
+QList<QChar> ButtonMnemonics(const QWidget& screen) {
+    QList<QChar> keys;
+    for (QPushButton* button : screen.findChildren<QPushButton*>()) {
+        const qsizetype amp = button->text().indexOf(QLatin1Char('&'));
+        if (amp >= 0 && amp + 1 < button->text().size())
+            keys << button->text().at(amp + 1).toLower();
+    }
+    return keys;
+}
+
+} // namespace tessera
