@@ -19,8 +19,7 @@ class Printer;
 // that a screen's own print command reaches paper.
 struct PrintingContext {
     PrintingContext(GalleryScene& scene, Printer& printer)
-        : services{scene.doubles.dialogs, scene.doubles.clock, scene.doubles.random,
-                   scene.doubles.sound, printer},
+        : services{scene.dialogs, scene.clock, scene.random, scene.sound, printer},
           context{scene.state, services, scene.screens} {}
 
     Services services;
