@@ -2,9 +2,9 @@
 // The one owner of the shared state: it holds SessionState, the course tables and the services,
 // and loads, shows and unloads every screen by name.
 
+#include "core/screen_context.h"
 #include "core/screen_registry.h"
 #include "core/session_state.h"
-#include "platform/services.h"
 
 #include <QObject>
 #include <QPointer>

@@ -1,6 +1,7 @@
 #include "core/button_menu.h"
 
 #include "core/navigation.h"
+#include "core/screen_text.h"
 #include "core/start_up.h"
 #include "platform/dialogs.h"
 #include "platform/windows1252.h"
@@ -40,9 +41,8 @@ bool CheckDisplaySize(Dialogs& dialogs, int width, int height) {
     return false;
 }
 
-void RefreshNavigation(ScreenHost& screens) {
-    if (auto* menu = qobject_cast<ButtonMenu*>(screens.find(ScreenName::ButtonMenu)))
-        menu->RefreshNavigation();
+void ButtonMenu::ChooseNoOption() {
+    Option1[ScrapOption]->click();
 }
 
 ButtonMenu::ButtonMenu(ScreenContext& context) : m_context(context) {

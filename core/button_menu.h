@@ -2,7 +2,7 @@
 // ButtonMenu, the "Navigation Screen": the home of the program, from which every screen opens.
 // Closing it ends the program.
 
-#include "platform/services.h"
+#include "core/screen_context.h"
 
 #include <QWidget>
 
@@ -19,7 +19,7 @@ namespace tessera {
 
 struct CaptionState;
 
-class ButtonMenu final : public QWidget {
+class ButtonMenu final : public QWidget, public NavigationScreen {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(ButtonMenu)
 
@@ -27,7 +27,8 @@ public:
     explicit ButtonMenu(ScreenContext& context);
 
     // Turns TakeCounts, TestPosition and ExamPosition into the captions and enabled states.
-    void RefreshNavigation();
+    void RefreshNavigation() override;
+    void ChooseNoOption() override;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -69,19 +70,7 @@ private:
     std::array<QPushButton*, 3> Command5{};
 };
 
-// Called by a test or exam screen as it unloads: refreshes the navigation screen if it is loaded.
-void RefreshNavigation(ScreenHost& screens);
-
 // Shows the message about a too small display; false when the program must end.
 bool CheckDisplaySize(Dialogs& dialogs, int width, int height);
-
-// What the end of the program asks of an open notebook with unsaved changes. The notebook
-// screen implements it; the navigation screen finds it by name.
-class SavesNoteBook {
-public:
-    virtual ~SavesNoteBook() = default;
-    // True once the notebook is on disk; false after telling the candidate that it is not.
-    virtual bool SaveNoteBook() = 0;
-};
 
 } // namespace tessera

@@ -145,9 +145,9 @@ void ButtonMenu::Command4_Click(int index) {
 }
 
 void ButtonMenu::Command5_Click(int index) {
-    static constexpr std::array<int16_t, 3> topics = {9, 1, 17};
-    m_context.state.HelpTopic = topics[index];
-    openAfresh(ScreenName::Help);
+    static constexpr std::array<HelpTopic, 3> topics = {HelpTopic::About, HelpTopic::InterfaceTips,
+                                                        HelpTopic::UsersGuide};
+    m_context.screens.openHelp(m_context.state, topics[static_cast<size_t>(index)]);
 }
 
 void ButtonMenu::openViewer(int section) {

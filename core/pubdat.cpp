@@ -1,5 +1,6 @@
 #include "core/pubdat.h"
 
+#include "core/screen_text.h"
 #include "core/start_up.h"
 #include "platform/clock.h"
 #include "platform/windows1252.h"

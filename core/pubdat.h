@@ -3,7 +3,7 @@
 // stands on the screen; then the title stays a few seconds and hands over to the navigation
 // screen.
 
-#include "platform/services.h"
+#include "core/screen_context.h"
 
 #include <QWidget>
 

@@ -15,34 +15,11 @@
 
 namespace tessera {
 
-namespace {
-
-// The navigation screen waits while a card is open; when it comes back it is restored if it
-// was minimised.
-void SetNavigationEnabled(ScreenHost& screens, bool enabled) {
-    QWidget* menu = screens.find(ScreenName::ButtonMenu);
-    if (menu == nullptr)
-        return;
-    menu->setEnabled(enabled);
-    if (enabled && menu->isMinimized())
-        menu->showNormal();
-}
-
-// The navigation screen's option that is no option, as if the user had chosen it.
-void ChooseNoNavigationOption(ScreenHost& screens) {
-    if (QWidget* menu = screens.find(ScreenName::ButtonMenu)) {
-        if (auto* none = menu->findChild<QRadioButton*>(QStringLiteral("Option1_6")))
-            none->click();
-    }
-}
-
-} // namespace
-
 ReportCard::ReportCard(ScreenContext& context, Design design, std::vector<QLabel*> heads,
                        QLabel* totals, QLabel* topic, std::vector<QLabel*> notes)
     : m_context(context), m_design(std::move(design)), m_heads(std::move(heads)), m_totals(totals),
       m_topic(topic) {
-    SetNavigationEnabled(m_context.screens, false);
+    m_context.screens.setNavigationEnabled(false);
     setWindowTitle(QString::fromLatin1(m_design.caption));
     buildLayout(std::move(notes));
 }
@@ -198,10 +175,7 @@ void ReportCard::Command1_Click(int index) {
         m_context.screens.unload(m_design.screen);
         break;
     case HelpCommand:
-        m_context.screens.unload(ScreenName::Help);
-        m_context.state.HelpTopic = m_design.helpTopic;
-        if (QWidget* help = m_context.screens.show(ScreenName::Help))
-            help->showNormal();
+        m_context.screens.openHelp(m_context.state, m_design.helpTopic);
         break;
     case RetakeCommand:
         Retake();
@@ -253,7 +227,7 @@ void ReportCard::Retake() {
     buildRetake(row, choice);
     ScreenHost& screens = m_context.screens;
     screens.unload(m_design.screen);
-    ChooseNoNavigationOption(screens);
+    screens.chooseNoNavigationOption();
     if (m_design.retakeAfresh)
         screens.unload(m_design.retakeScreen);
     screens.show(m_design.retakeScreen);
@@ -284,7 +258,8 @@ void ReportCard::changeEvent(QEvent* event) {
 void ReportCard::closeEvent(QCloseEvent* event) {
     if (isMinimized())
         showNormal();
-    SetNavigationEnabled(m_context.screens, true);
+    m_context.screens.setNavigationEnabled(true);
+    m_context.screens.restoreNavigation();
     event->accept();
 }
 

@@ -5,9 +5,9 @@
 // erasing in memory with the question on leaving, retakes, printing, help, and the navigation
 // screen held while the card is open. Each card supplies its rows through the hooks below.
 
+#include "core/screen_context.h"
 #include "core/screen_host.h"
 #include "platform/card_layout.h"
-#include "platform/services.h"
 
 #include <QStringList>
 #include <QWidget>
@@ -55,7 +55,7 @@ protected:
         std::vector<int> commandOrder; // the indices from the top of the column down
         std::vector<int> rowCommands;  // the commands that need a selected row
         const char* erasedTitle;       // the title of "Save Changes to Report Card?"
-        int16_t helpTopic;             // what HelpTopic becomes for "&Help"
+        HelpTopic helpTopic;           // opened afresh by "&Help"
         ScreenName retakeScreen;
         bool retakeAfresh; // unload an open retake screen before showing it
     };

@@ -63,13 +63,6 @@ QString CutUserName(const QString& typed) {
     return typed.mid(first, UserNameLength);
 }
 
-QString ShownUserName(const std::string& userName) {
-    QString name = fromWindows1252(userName);
-    while (name.endsWith(QLatin1Char(' ')) || name.endsWith(QChar()))
-        name.chop(1);
-    return name;
-}
-
 StartUp::StartUp(SessionState& state, Services& services) : m_state(state), m_services(services) {}
 
 StartUpOutcome StartUp::run() {

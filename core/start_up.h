@@ -2,6 +2,7 @@
 // The title screen's load: every step of start-up in order, from filling the catalogue to the
 // printer fonts, with the one error handler that covers the steps after the progress file.
 
+#include "core/session_state.h"
 #include "platform/services.h"
 
 #include <QString>
@@ -74,8 +75,5 @@ std::string ChoosePrintFontName(const QStringList& fontNames);
 
 // The confirmed form of a typed name: leading blanks cut, at most 30 characters.
 QString CutUserName(const QString& typed);
-
-// UserName as the screens show it: its padding cut from the end.
-QString ShownUserName(const std::string& userName);
 
 } // namespace tessera

@@ -1,8 +1,9 @@
 #include "exam/exam_set.h"
 
+#include "core/screen_text.h"
 #include "core/session_state.h"
-#include "exam/exam_widgets.h"
 #include "platform/control_names.h"
+#include "platform/fixed_pitch_font.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -33,7 +34,7 @@ QListWidget* MakeList(int rows, int step, const QString& name, int index) {
 ExamSet::ExamSet(ScreenContext& context) : m_context(context), m_form(context.state) {
     setObjectName(QStringLiteral("ExamSet"));
     setWindowTitle(QStringLiteral("Build Comprehensive Screening Exam"));
-    SetNavigationEnabled(m_context.screens, false);
+    m_context.screens.setNavigationEnabled(false);
     buildControls();
     showForm();
     wireControls();
@@ -205,13 +206,7 @@ void ExamSet::Command1_Click(int index) {
         screens.unload(ScreenName::ExamSet);
         break;
     default:
-        if (m_context.state.HelpTopic != 10) {
-            screens.unload(ScreenName::Help);
-        }
-        m_context.state.HelpTopic = 10;
-        if (QWidget* help = screens.show(ScreenName::Help)) {
-            help->showNormal();
-        }
+        screens.openHelp(m_context.state, HelpTopic::ExamSet, HelpOpening::Comparing);
         break;
     }
 }
@@ -233,7 +228,8 @@ void ExamSet::closeEvent(QCloseEvent* event) {
     if (isMinimized()) {
         showNormal();
     }
-    SetNavigationEnabled(m_context.screens, true);
+    m_context.screens.setNavigationEnabled(true);
+    m_context.screens.restoreNavigation();
     event->accept();
 }
 

@@ -2,8 +2,8 @@
 // ExamSet, "Build Comprehensive Screening Exam": chooses the next screening exam and hands the
 // choice to ExamTest through the session.
 
+#include "core/screen_context.h"
 #include "exam/exam_set_form.h"
-#include "platform/services.h"
 
 #include <QWidget>
 

@@ -1,13 +1,12 @@
 #include "exam/exam_test.h"
 
+#include "core/picture_window.h"
 #include "core/run_journal.h"
-
-#include "core/button_menu.h"
+#include "core/screen_text.h"
 #include "core/session_state.h"
 #include "exam/exam_end.h"
-#include "exam/exam_widgets.h"
 #include "platform/clock.h"
-#include "platform/picture_window.h"
+#include "platform/fixed_pitch_font.h"
 #include "platform/rich_text_view.h"
 
 #include <QCloseEvent>
@@ -26,7 +25,7 @@ ExamTest::ExamTest(ScreenContext& context)
     : m_context(context),
       m_session(context.state, context.services.clock, context.services.random) {
     setObjectName(QStringLiteral("ExamTest"));
-    SetNavigationEnabled(m_context.screens, false);
+    m_context.screens.setNavigationEnabled(false);
     buildControls();
     m_session.open();
     showSession();
@@ -97,11 +96,7 @@ void ExamTest::Command1_Click(int index) {
         }
         return;
     case 9:
-        m_context.screens.unload(ScreenName::Help);
-        m_context.state.HelpTopic = 11;
-        if (QWidget* help = m_context.screens.show(ScreenName::Help)) {
-            help->showNormal();
-        }
+        m_context.screens.openHelp(m_context.state, HelpTopic::ExamTest);
         return;
     case UnsureCommand:
         m_session.pressUnsure();
@@ -304,11 +299,12 @@ void ExamTest::Form_Unload() {
     if (isMinimized()) {
         showNormal();
     }
-    SetNavigationEnabled(screens, true);
+    screens.setNavigationEnabled(true);
+    screens.restoreNavigation();
     const int committed = m_session.list(AnsweredList).rows();
     const ExamEndOutcome end = EndExam(m_context.state, m_session.examFinished(), committed,
                                        m_context.services.clock.now(), m_context.services.dialogs,
-                                       [&screens] { RefreshNavigation(screens); });
+                                       [&screens] { screens.refreshNavigation(); });
     // An exam that could not be saved keeps its journal for the next start.
     if (end.saved || committed == 0) {
         DropJournal();

@@ -3,8 +3,8 @@
 // user's acts, keys and timer ticks to it; closing runs the end of the exam.
 
 #include "core/rich_text_documents.h"
+#include "core/screen_context.h"
 #include "exam/exam_session.h"
-#include "platform/services.h"
 
 #include <QWidget>
 

@@ -3,8 +3,8 @@
 
 #include "exam/exam_test.h"
 
-#include "exam/exam_widgets.h"
 #include "platform/control_names.h"
+#include "platform/fixed_pitch_font.h"
 #include "platform/rich_text_view.h"
 
 #include <QFrame>

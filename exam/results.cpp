@@ -1,14 +1,15 @@
 #include "exam/results.h"
 
+#include "core/picture_window.h"
+#include "core/screen_text.h"
 #include "core/session_state.h"
 #include "exam/exam_format.h"
 #include "exam/exam_items.h"
-#include "exam/exam_widgets.h"
 #include "exam/results_print.h"
 #include "platform/clock.h"
 #include "platform/control_names.h"
 #include "platform/dialogs.h"
-#include "platform/picture_window.h"
+#include "platform/fixed_pitch_font.h"
 #include "platform/rich_text_view.h"
 
 #include <QCloseEvent>
@@ -23,7 +24,7 @@ namespace tessera {
 
 Results::Results(ScreenContext& context) : m_context(context) {
     setObjectName(QStringLiteral("Results"));
-    SetNavigationEnabled(m_context.screens, false);
+    m_context.screens.setNavigationEnabled(false);
     buildControls();
     SessionState& s = m_context.state;
     const ResultsTally tally = CountResults(s);
@@ -163,11 +164,7 @@ void Results::Command1_Click(int index) {
         }
         break;
     case 3:
-        screens.unload(ScreenName::Help);
-        s.HelpTopic = 12;
-        if (QWidget* help = screens.show(ScreenName::Help)) {
-            help->showNormal();
-        }
+        screens.openHelp(s, HelpTopic::Results);
         break;
     case 4: {
         const auto answer = m_context.services.dialogs.message(
@@ -206,7 +203,8 @@ void Results::closeEvent(QCloseEvent* event) {
     if (isMinimized()) {
         showNormal();
     }
-    SetNavigationEnabled(m_context.screens, true);
+    m_context.screens.setNavigationEnabled(true);
+    m_context.screens.restoreNavigation();
     event->accept();
 }
 

@@ -3,8 +3,8 @@
 // candidate's, and the question with its explanation.
 
 #include "core/rich_text_documents.h"
+#include "core/screen_context.h"
 #include "exam/results_summary.h"
-#include "platform/services.h"
 
 #include <QWidget>
 

@@ -1,9 +1,6 @@
 #pragma once
 // Every interaction with the world, in one bundle that tests fill with doubles.
 
-#include "core/screen_host.h"
-#include "core/session_state.h"
-
 namespace tessera {
 
 class Dialogs;
@@ -18,14 +15,6 @@ struct Services {
     Random& random;
     Sound& sound;
     Printer& printer;
-};
-
-// What a screen is given when it is loaded: the shared state, the services, and the host
-// through which it opens other screens by name.
-struct ScreenContext {
-    SessionState& state;
-    Services& services;
-    ScreenHost& screens;
 };
 
 } // namespace tessera

@@ -13,7 +13,7 @@ constexpr double MillisecondsPerDay = 86400000.0;
 
 } // namespace
 
-DateValue SystemClock::now() const {
+double SystemClock::now() const {
     const QDateTime local = QDateTime::currentDateTime();
     return static_cast<double>(DateOrigin.daysTo(local.date())) +
            local.time().msecsSinceStartOfDay() / MillisecondsPerDay;

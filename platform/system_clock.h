@@ -7,7 +7,7 @@ namespace tessera {
 
 class SystemClock final : public Clock {
 public:
-    DateValue now() const override;
+    double now() const override;
     double secondsSinceMidnight() const override;
     // Asks the operating system; it refuses unless the program may set the time.
     bool setTimeOfDay(int hours, int minutes, int seconds) override;

@@ -69,7 +69,7 @@ Scoring::Scoring(ScreenContext& context, std::array<QLabel*, 12> labels)
                   {5, 4, 1, 0, 3, 2},
                   {0, 1, 4, 5},
                   "Exam Data Erased!",
-                  13,
+                  HelpTopic::Scoring,
                   ScreenName::ExamTest,
                   true},
                  {labels[0], labels[1], labels[2], labels[3], labels[4], labels[5], labels[6],

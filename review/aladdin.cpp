@@ -97,9 +97,7 @@ void Aladdin::Command1_Click(int index) {
         QDialog::reject();
         break;
     default:
-        m_screens.unload(ScreenName::Help);
-        m_state.HelpTopic = 16;
-        m_screens.showModal(ScreenName::Help);
+        m_screens.openHelpModal(m_state, HelpTopic::Aladdin);
         break;
     }
 }

@@ -1,7 +1,7 @@
 #pragma once
 // PictForm: the small window beside an item that shows the item's figure.
 
-#include "platform/picture_window.h"
+#include "core/picture_window.h"
 
 #include <QWidget>
 

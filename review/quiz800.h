@@ -3,7 +3,8 @@
 // with its explanation, the tallies, the clocks, the gauge and the wishes.
 
 #include "core/rich_text_documents.h"
-#include "platform/services.h"
+#include "core/screen_context.h"
+#include "review/review_session.h"
 
 #include <QWidget>
 
@@ -19,7 +20,6 @@ class QTimer;
 
 namespace tessera {
 
-struct SaveResult;
 class ReviewGauge;
 class RichTextView;
 
@@ -34,21 +34,16 @@ public:
     ~Quiz800() override;
 
     void ShowItem(int position);
-    void ProcessAnswer(int& letter, int button);
-    void KeyAnswer(int keyCode);
-    void RevealAnswer();
-    void UpdatePerformance();
     void Command1_Click(int index);
     // Writes the two clocks; runs every 200 milliseconds while an item is open.
     void Timer1_Timer();
 
-    // Indices 0..3 answers, 5 Aladdin, 6 Next/Done, 7 Break/Cancel, 8 Help, 9 Notebook,
-    // 10 Calculator, 11 Previous, 12 View Picture; 4 is not used.
-    std::array<QPushButton*, 13> Command1{};
+    // By ReviewCommand.
+    std::array<QPushButton*, ReviewCommand::Count> Command1{};
     RichTextView* RichTextBox1 = nullptr;
     QTimer* Timer1 = nullptr;
     // The document on screen, normal and large.
-    const RtfVersions& itemRtf() const { return ItemRtf; }
+    const RtfVersions& itemRtf() const { return m_session.document(); }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -61,39 +56,18 @@ private:
     void buildControls();
     QPushButton* makeCommand(int index, const QString& caption, const QString& accessibleName);
 
-    // quiz800_session.cpp: the test as a whole
-    void BuildAllItemsTest();
-    void NextItem();
-    void PreviousItem();
-    void EndTest();
-    void Form_Unload();
-    SaveResult SaveTest();
-    void OpenAladdin();
-    void CoinToss();
-    void openBeside(ScreenName name);
-
-    void Form_KeyPress(int keyCode);
-    void showPicture(int item);
+    // quiz800_session.cpp: the session's state on the widgets, and the screens beside
+    void showSession();
+    void showPicture();
     void showDocument();
-    void setFeedback(const std::string& text, int colour);
-    void appendFeedback(const std::string& text);
-    void updateGauge();
-    int enabledAnswers() const;
-    bool isLastPosition() const;
-    DateValue now() const;
+    void Form_Unload();
+    void OpenAladdin();
 
     ScreenContext& m_context;
     SessionState& m_state;
-
-    // Fields of the screen; they go with it.
-    int RightAnswer = 0;
-    int GivenAnswer = 0;
-    std::string QuestionRtf;
-    std::string ExplanationRtf;
-    RtfVersions ItemRtf;
-    DateValue ItemStart = 0;
-    bool TestFinished = false;
-    bool m_unloaded = false;
+    ReviewSession m_session;
+    int m_shownDocument = -1;
+    int m_shownItem = -1;
 
     QLabel* Label2 = nullptr;
     QGroupBox* Frame1 = nullptr;
@@ -107,7 +81,6 @@ private:
     QProgressBar* ProgressBar1 = nullptr;
     QFrame* Shape4 = nullptr;
     ReviewGauge* m_gauge = nullptr;
-    std::string m_feedback; // Label2's caption as the system writes it, with CR LF
 };
 
 } // namespace tessera

@@ -119,31 +119,35 @@ void Quiz800::buildControls() {
         answers->addWidget(button);
     }
     answers->addSpacing(16);
-    answers->addWidget(
-        makeCommand(5, QStringLiteral("A&laddin"), QStringLiteral("Aladdin wishes")));
+    answers->addWidget(makeCommand(ReviewCommand::Aladdin, QStringLiteral("A&laddin"),
+                                   QStringLiteral("Aladdin wishes")));
     answers->addStretch();
-    answers->addWidget(
-        makeCommand(12, QStringLiteral("&View Picture"), QStringLiteral("View Picture")));
+    answers->addWidget(makeCommand(ReviewCommand::Picture, QStringLiteral("&View Picture"),
+                                   QStringLiteral("View Picture")));
 
     auto* commands = new QHBoxLayout;
-    commands->addWidget(makeCommand(11, QStringLiteral("&Previous"), QStringLiteral("Previous")));
-    commands->addWidget(makeCommand(6, QStringLiteral("&Next"), QStringLiteral("Next or Done")));
+    commands->addWidget(makeCommand(ReviewCommand::Previous, QStringLiteral("&Previous"),
+                                    QStringLiteral("Previous")));
     commands->addWidget(
-        makeCommand(7, QStringLiteral("&Break"), QStringLiteral("Break or Cancel")));
+        makeCommand(ReviewCommand::Next, QStringLiteral("&Next"), QStringLiteral("Next or Done")));
+    commands->addWidget(makeCommand(ReviewCommand::Break, QStringLiteral("&Break"),
+                                    QStringLiteral("Break or Cancel")));
     commands->addStretch();
-    commands->addWidget(makeCommand(8, QStringLiteral("&Help"), QStringLiteral("Help")));
-    commands->addWidget(makeCommand(9, QStringLiteral("N&otebook"), QStringLiteral("Notebook")));
     commands->addWidget(
-        makeCommand(10, QStringLiteral("C&alculator"), QStringLiteral("Calculator")));
-    for (int i : {6, 7, 11})
+        makeCommand(ReviewCommand::Help, QStringLiteral("&Help"), QStringLiteral("Help")));
+    commands->addWidget(makeCommand(ReviewCommand::NoteBook, QStringLiteral("N&otebook"),
+                                    QStringLiteral("Notebook")));
+    commands->addWidget(makeCommand(ReviewCommand::Calculator, QStringLiteral("C&alculator"),
+                                    QStringLiteral("Calculator")));
+    for (int i : {ReviewCommand::Next, ReviewCommand::Break, ReviewCommand::Previous})
         Command1[static_cast<size_t>(i)]->setMinimumWidth(96);
-    for (int i : {6, 7, 11, 12})
-        Command1[static_cast<size_t>(i)]->setEnabled(false);
 
     // Desk tools that this build does not have stay disabled.
-    Command1[8]->setEnabled(m_context.screens.isAvailable(ScreenName::Help));
-    Command1[9]->setEnabled(m_context.screens.isAvailable(ScreenName::NoteBook));
-    Command1[10]->setEnabled(m_context.screens.isAvailable(ScreenName::Calculator));
+    Command1[ReviewCommand::Help]->setEnabled(m_context.screens.isAvailable(ScreenName::Help));
+    Command1[ReviewCommand::NoteBook]->setEnabled(
+        m_context.screens.isAvailable(ScreenName::NoteBook));
+    Command1[ReviewCommand::Calculator]->setEnabled(
+        m_context.screens.isAvailable(ScreenName::Calculator));
 
     auto* text = new QVBoxLayout;
     text->addWidget(RichTextBox1, 1);
@@ -167,7 +171,10 @@ void Quiz800::buildControls() {
 
     setTabOrder(RichTextBox1, Command1[0]);
     QWidget* previous = Command1[0];
-    for (int i : {1, 2, 3, 5, 12, 11, 6, 7, 8, 9, 10}) {
+    for (int i :
+         {1, 2, 3, int{ReviewCommand::Aladdin}, int{ReviewCommand::Picture},
+          int{ReviewCommand::Previous}, int{ReviewCommand::Next}, int{ReviewCommand::Break},
+          int{ReviewCommand::Help}, int{ReviewCommand::NoteBook}, int{ReviewCommand::Calculator}}) {
         setTabOrder(previous, Command1[static_cast<size_t>(i)]);
         previous = Command1[static_cast<size_t>(i)];
     }

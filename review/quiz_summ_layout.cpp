@@ -56,7 +56,7 @@ QuizSumm::QuizSumm(ScreenContext& context, Labels labels)
                   {0, 1, 2, 3, 4},
                   {0, 1, 4},
                   "Data Erased!",
-                  6,
+                  HelpTopic::QuizSumm,
                   ScreenName::Quiz800,
                   false},
                  {labels.heads.begin(), labels.heads.end()}, labels.totals, labels.topic,

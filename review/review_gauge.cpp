@@ -1,5 +1,6 @@
 #include "review/review_gauge.h"
 
+#include "core/screen_colours.h"
 #include "review/item_scoring.h"
 #include "review/review_text.h"
 
@@ -15,11 +16,6 @@ namespace {
 constexpr int BarWidth = 22;
 constexpr int MarkWidth = 44;
 constexpr int HandShakeSize = 56;
-
-QColor colourOf(int value) {
-    // Colour values are 0xBBGGRR.
-    return QColor(value & 0xFF, (value >> 8) & 0xFF, (value >> 16) & 0xFF);
-}
 
 QLabel* makeLabel(QWidget* parent, const char* name, const QString& text) {
     auto* label = new QLabel(text, parent);
@@ -93,7 +89,7 @@ void ReviewGauge::showScore(float score, bool passing) {
     m_score = score;
     m_passing = passing;
     QPalette palette = Shape1->palette();
-    palette.setColor(QPalette::Window, colourOf(passing ? PassingColour : WrongColour));
+    palette.setColor(QPalette::Window, ColourOf(passing ? PassingColour : WrongColour));
     palette.setColor(QPalette::WindowText, palette.color(QPalette::Window).darker(140));
     Shape1->setPalette(palette);
     HandShake->setVisible(passing);

@@ -1,6 +1,6 @@
 #include "tools/alarm_form.h"
 
-#include "core/start_up.h"
+#include "core/screen_text.h"
 #include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/sound.h"
@@ -190,8 +190,7 @@ void AlarmForm::closeEvent(QCloseEvent* event) {
     storePosition();
     Timer1->stop();
     m_alarmTime.reset();
-    if (QWidget* menu = m_context.screens.find(ScreenName::ButtonMenu))
-        menu->showNormal();
+    m_context.screens.showNavigationNormal();
     event->accept();
 }
 

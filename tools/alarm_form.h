@@ -2,7 +2,7 @@
 // AlarmForm, the alarm clock: shows the time, sounds one alarm at a time of day, and sets the
 // computer's clock. The alarm lives only as long as the form.
 
-#include "platform/services.h"
+#include "core/screen_context.h"
 
 #include <QWidget>
 

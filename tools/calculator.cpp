@@ -137,10 +137,7 @@ void Calculator::press(CalculatorControl control, int index) {
 }
 
 void Calculator::showHelp() {
-    m_context.screens.unload(ScreenName::Help);
-    m_context.state.HelpTopic = 15;
-    if (QWidget* help = m_context.screens.show(ScreenName::Help))
-        help->showNormal();
+    m_context.screens.openHelp(m_context.state, HelpTopic::Calculator);
 }
 
 QPushButton* Calculator::buttonFor(CalculatorControl control, int index) const {

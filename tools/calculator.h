@@ -2,7 +2,7 @@
 // Calculator, the desk calculator beside the other screens: four functions, percent, square
 // root, sign and one memory, by mouse or keyboard.
 
-#include "platform/services.h"
+#include "core/screen_context.h"
 #include "tools/calculator_machine.h"
 
 #include <QWidget>

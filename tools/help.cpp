@@ -1,8 +1,8 @@
 #include "tools/help.h"
 
+#include "core/screen_context.h"
 #include "core/session_state.h"
 #include "platform/rich_text_view.h"
-#include "platform/services.h"
 #include "tools/text_frame.h"
 
 #include <QEvent>

@@ -1,13 +1,12 @@
 #include "tools/note_book.h"
 
+#include "core/screen_context.h"
 #include "core/session_state.h"
 #include "platform/control_names.h"
 #include "platform/dialogs.h"
 #include "platform/print_rich_text.h"
 #include "platform/rich_text_view.h"
-#include "platform/services.h"
 #include "tools/notebook_search.h"
-#include "tools/screen_openers.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -23,7 +22,6 @@
 namespace tessera {
 namespace {
 
-constexpr int NoteBookHelpTopic = 8;
 constexpr int TwipsPerPixel = 15;
 constexpr const char* NoteBookNotSavedTitle = "Notebook Not Saved";
 constexpr const char* NoteBookNotSavedMessage =
@@ -134,7 +132,7 @@ void NoteBook::Command1_Click(int index) {
         close();
         break;
     default:
-        OpenHelpAfresh(m_context.screens, m_context.state, NoteBookHelpTopic);
+        m_context.screens.openHelp(m_context.state, HelpTopic::NoteBook);
         break;
     }
 }

@@ -2,7 +2,7 @@
 // NoteBook: the candidate's own rich text notebook over TesseraNoteBook.RTF, with a find that
 // wraps round once; unsaved changes are tracked in NoteBookChanged.
 
-#include "core/button_menu.h"
+#include "core/screen_context.h"
 
 #include <QWidget>
 

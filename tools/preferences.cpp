@@ -198,10 +198,8 @@ void Preferences::Command2_Click() {
 }
 
 void Preferences::Command3_Click() {
-    m_context.screens.unload(ScreenName::Help);
-    m_context.state.HelpTopic = 3;
     // This dialog holds the others back, so help must come up modal to be usable.
-    m_context.screens.showModal(ScreenName::Help);
+    m_context.screens.openHelpModal(m_context.state, HelpTopic::Preferences);
 }
 
 void Preferences::closeEvent(QCloseEvent* event) {

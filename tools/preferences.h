@@ -2,7 +2,7 @@
 // Preferences, the review test options dialog: four options and the passing grade, saved to
 // the progress header.
 
-#include "platform/services.h"
+#include "core/screen_context.h"
 
 #include <QDialog>
 #include <QString>

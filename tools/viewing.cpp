@@ -1,16 +1,14 @@
 #include "tools/viewing.h"
 
 #include "core/item_text.h"
+#include "core/screen_context.h"
 #include "core/session_state.h"
 #include "platform/dialogs.h"
 #include "platform/print_rich_text.h"
 #include "platform/rich_text_view.h"
-#include "platform/services.h"
 #include "platform/windows1252.h"
-#include "tools/screen_openers.h"
 #include "tools/text_frame.h"
 
-#include <QAbstractButton>
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QGroupBox>
@@ -26,8 +24,6 @@ namespace tessera {
 namespace {
 
 constexpr int TwipsPerPixel = 15;
-constexpr int GlossaryHelpTopic = 7;
-constexpr int TextHelpTopic = 4;
 
 // Up to two accelerator marks go from a button's caption to make a window's title.
 QString WithoutAccelerators(QString caption) {
@@ -48,12 +44,11 @@ Viewing::Viewing(ScreenContext& context) : m_context(context) {
     m_glossary = state.ViewerSection == GlossarySection;
     QString title;
     if (m_glossary) {
-        title = navigationCaption("Command3_0", QStringLiteral("&Glossary of Key Terms"));
+        title = QStringLiteral("&Glossary of Key Terms");
         loadGlossary();
     } else {
         const int section = std::clamp<int>(state.ViewerSection, 1, TextSectionCount);
-        title = navigationCaption(qPrintable(QStringLiteral("Command4_%1").arg(section - 1)),
-                                  fromWindows1252(state.catalogue.TextSectionCaptions[section]));
+        title = fromWindows1252(state.catalogue.TextSectionCaptions[section]);
         loadDiscussion();
     }
     setWindowTitle(WithoutAccelerators(title));
@@ -62,14 +57,6 @@ Viewing::Viewing(ScreenContext& context) : m_context(context) {
     Command1[1]->setEnabled(m_context.screens.isAvailable(ScreenName::NoteBook));
     Command1[3]->setEnabled(m_context.screens.isAvailable(ScreenName::Help));
     resize(640, m_glossary ? 640 : 520);
-}
-
-QString Viewing::navigationCaption(const char* button, const QString& otherwise) const {
-    // The title is the caption of the navigation screen's button that opened the form.
-    const QWidget* menu = m_context.screens.find(ScreenName::ButtonMenu);
-    const auto* caption =
-        menu != nullptr ? menu->findChild<QAbstractButton*>(QString::fromLatin1(button)) : nullptr;
-    return caption != nullptr ? caption->text() : otherwise;
 }
 
 void Viewing::loadDiscussion() {
@@ -171,13 +158,15 @@ void Viewing::Command1_Click(int index) {
         PrintRichText(*RichTextBox1, m_context.services.printer);
         break;
     case 1:
-        ShowNormal(screens, ScreenName::NoteBook);
+        screens.showNormal(ScreenName::NoteBook);
         break;
     case 2:
         close();
         break;
     case 3:
-        OpenHelpComparing(screens, m_context.state, m_glossary ? GlossaryHelpTopic : TextHelpTopic);
+        screens.openHelp(m_context.state,
+                         m_glossary ? HelpTopic::Glossary : HelpTopic::DiscussionText,
+                         HelpOpening::Comparing);
         break;
     case 4:
         FindNext();

@@ -57,7 +57,6 @@ private:
     void buildLetterButtons();
     void loadDiscussion();
     void loadGlossary();
-    QString navigationCaption(const char* button, const QString& otherwise) const;
     void showDocuments();
     void showEntry(int position);
 

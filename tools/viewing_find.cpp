@@ -1,6 +1,6 @@
+#include "core/screen_context.h"
 #include "platform/dialogs.h"
 #include "platform/rich_text_view.h"
-#include "platform/services.h"
 #include "tools/viewing.h"
 
 #include <QCheckBox>

@@ -2,8 +2,8 @@
 // meets them on an item with a figure.
 
 #include "core/item_text.h"
+#include "core/picture_window.h"
 #include "core/rich_text_documents.h"
-#include "platform/picture_window.h"
 #include "platform/rich_text_view.h"
 #include "review/pict_form.h"
 #include "tests/gallery/gallery.h"

@@ -1,5 +1,5 @@
+#include "core/picture_window.h"
 #include "core/screen_host.h"
-#include "platform/picture_window.h"
 #include "review/pict_form.h"
 
 #include <QImage>

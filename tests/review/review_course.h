@@ -1,6 +1,7 @@
 #pragma once
 // A small course for the review screens' tests, and the doubles a screen is given.
 
+#include "core/screen_context.h"
 #include "tests/support/recording_screens.h"
 #include "tests/support/test_services.h"
 

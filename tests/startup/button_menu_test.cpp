@@ -103,10 +103,10 @@ private Q_SLOTS:
         m_state->TestType = 4;
         m_state->ExamPosition = 9;
         m_state->ExamType = 1;
-        RefreshNavigation(*m_host); // not placed with the host: nothing happens
+        m_host->refreshNavigation(); // not placed with the host: nothing happens
         QCOMPARE(text("Option1_0"), QStringLiteral("Topic &Review Test"));
         m_host->place(ScreenName::ButtonMenu, m_menu.get());
-        RefreshNavigation(*m_host);
+        m_host->refreshNavigation();
         QCOMPARE(text("Option1_0"), QStringLiteral("Resume Topic 2 &Review, Retake Wild Guesses"));
         QCOMPARE(text("Option1_1"), QStringLiteral("Resume &Screening Exam, Screening Exam I"));
         QVERIFY(!enabled("Command2_0"));

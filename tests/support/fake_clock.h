@@ -1,6 +1,7 @@
 #pragma once
 // A clock that stands still until the test moves it; setting the time changes only this clock.
 
+#include "core/date_value.h"
 #include "platform/clock.h"
 
 #include <vector>

@@ -2,6 +2,7 @@
 // What a screen is given in a test: the study fixture, a host that records what the screen asks
 // of it, and the context that joins them.
 
+#include "core/screen_context.h"
 #include "tests/support/recording_screens.h"
 #include "tests/support/study_fixture.h"
 

@@ -6,7 +6,6 @@
 #include "tests/support/small_course.h"
 #include "tests/support/test_services.h"
 #include "tools/help.h"
-#include "tools/screen_openers.h"
 
 #include <QApplication>
 #include <QtTest>
@@ -38,20 +37,20 @@ private Q_SLOTS:
         Application app(doubles.services);
         FillSmallCourse(app.state());
 
-        OpenHelpComparing(app, app.state(), 7);
+        app.openHelp(app.state(), HelpTopic::Glossary, HelpOpening::Comparing);
         Help* first = qobject_cast<Help*>(app.find(ScreenName::Help));
         QVERIFY(first != nullptr);
-        OpenHelpComparing(app, app.state(), 7);
+        app.openHelp(app.state(), HelpTopic::Glossary, HelpOpening::Comparing);
         QCOMPARE(openHelpWindows(), QList<Help*>{first}); // the same window, not loaded again
         QVERIFY(first->RichTextBox1->text().contains(QStringLiteral("Help text 7")));
 
         // Another screen's topic replaces it; afresh always loads anew.
-        OpenHelpComparing(app, app.state(), 4);
+        app.openHelp(app.state(), HelpTopic::DiscussionText, HelpOpening::Comparing);
         QCOMPARE(openHelpWindows().size(), 1);
         QVERIFY(openHelpWindows().front()->RichTextBox1->text().contains(
             QStringLiteral("Help text 4")));
-        OpenHelpAfresh(app, app.state(), 8);
-        OpenHelpAfresh(app, app.state(), 8);
+        app.openHelp(app.state(), HelpTopic::NoteBook);
+        app.openHelp(app.state(), HelpTopic::NoteBook);
         const QList<Help*> windows = openHelpWindows();
         QCOMPARE(windows.size(), 1);
         QVERIFY(windows.front()->RichTextBox1->text().contains(QStringLiteral("Help text 8")));

@@ -1,6 +1,7 @@
 // The text and glossary viewer driven as a reader would: letter buttons and keys, the find
 // panel with its wrap round, and the discussion text's title, printing and help.
 
+#include "core/screen_context.h"
 #include "platform/rich_text_view.h"
 #include "tests/support/screen_fixture.h"
 #include "tools/viewing.h"

@@ -1,4 +1,4 @@
-#include "platform/picture_window.h"
+#include "core/picture_window.h"
 
 #include "core/screen_host.h"
 
