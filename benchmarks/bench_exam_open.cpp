@@ -9,7 +9,9 @@
 #include "tests/support/test_services.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QPixmap>
+#include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
 
@@ -48,6 +50,9 @@ BENCHMARK(OpenCustomExam)->Unit(benchmark::kMillisecond)->Repetitions(5)->Report
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
+    // Saves and the run journal land in the current folder: a scratch one, never the tree.
+    QTemporaryDir scratch;
+    QDir::setCurrent(scratch.path());
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();

@@ -10,8 +10,10 @@
 #include "tests/support/test_services.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QKeyEvent>
 #include <QPushButton>
+#include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
 
@@ -117,6 +119,9 @@ int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
+    // Saves and the run journal land in the current folder: a scratch one, never the tree.
+    QTemporaryDir scratch;
+    QDir::setCurrent(scratch.path());
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
