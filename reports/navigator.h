@@ -2,7 +2,7 @@
 // Navigator, the "Monitor Spreadsheet": one table of progress folded from the log, a row for
 // each topic and exam, with a chart of the selected row's takes beside it. Read-only and modal.
 
-#include "platform/services.h"
+#include "core/screen_context.h"
 #include "reports/navigator_table.h"
 
 #include <QWidget>
