@@ -196,7 +196,7 @@ void ButtonMenu::closeEvent(QCloseEvent* event) {
         const MessageAnswer answer =
             m_context.services.dialogs.message(QStringLiteral("Save your changes to disk?"),
                                                QStringLiteral("Change to NoteBook Detected!"),
-                                               MessageIcon::Question, MessageButtons::YesNo);
+                                               MessageIcon::None, MessageButtons::YesNo);
         auto* notebook = dynamic_cast<SavesNoteBook*>(m_context.screens.find(ScreenName::NoteBook));
         // Notes that could not be saved keep the program open.
         if (answer == MessageAnswer::Yes && notebook != nullptr && !notebook->SaveNoteBook()) {

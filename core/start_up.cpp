@@ -205,6 +205,14 @@ std::optional<std::string> StartUp::askUserName() {
         const QString name = CutUserName(typed);
         if (name.isEmpty())
             continue; // only blanks: no name at all
+        if (!inWindows1252(name)) {
+            // The header stores the name in the code page; a '?' in its place would be a surprise.
+            dialogs.message(QStringLiteral("The name can use only letters, figures and signs of "
+                                           "Western European languages. Please type it again."),
+                            QStringLiteral("Software User's Name"), MessageIcon::Exclamation,
+                            MessageButtons::Ok);
+            continue;
+        }
         const QString confirmation = QStringLiteral("Thank you.") + QLatin1String(CrLf) +
                                      QStringLiteral("Software user's name is ") + name +
                                      QLatin1Char('.');
@@ -287,8 +295,11 @@ bool StartUp::attempt(const Step& step) {
             }
             return true;
         }
-        dialogs.message(QStringLiteral("Unrecoverable error %1 has occurred.").arg(error->number),
-                        error->text, MessageIcon::Critical, MessageButtons::Ok);
+        // Told once; the step is then tried again quietly until the closing message.
+        if (tries == 1)
+            dialogs.message(
+                QStringLiteral("Unrecoverable error %1 has occurred.").arg(error->number),
+                error->text, MessageIcon::Critical, MessageButtons::Ok);
         if (tries == MaxTries) {
             giveUp(*error);
             return false;

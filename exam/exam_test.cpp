@@ -210,7 +210,7 @@ void ExamTest::showItemText() {
     }
     m_shownRtf = m_session.itemRtf();
     if (m_shownRtf.empty()) {
-        m_item = {};
+        // m_item keeps the last question: a resize after time runs out puts it back.
         RichTextBox1->clear();
         return;
     }
@@ -249,10 +249,18 @@ void ExamTest::applyFocus() {
 
 void ExamTest::changeEvent(QEvent* event) {
     // Form_Resize: the large version while maximised.
-    if (event->type() == QEvent::WindowStateChange && !m_shownRtf.empty()) {
+    if (event->type() == QEvent::WindowStateChange && !m_item.normal.empty()) {
         RichTextBox1->setTextRtf(m_item.forWindow(isMaximized()));
     }
     QWidget::changeEvent(event);
+}
+
+void ExamTest::resizeEvent(QResizeEvent* event) {
+    // Form_Resize also refills a text that time running out emptied.
+    if (!m_item.normal.empty() && RichTextBox1->document()->isEmpty()) {
+        RichTextBox1->setTextRtf(m_item.forWindow(isMaximized()));
+    }
+    QWidget::resizeEvent(event);
 }
 
 bool ExamTest::eventFilter(QObject* watched, QEvent* event) {
@@ -271,10 +279,10 @@ bool ExamTest::eventFilter(QObject* watched, QEvent* event) {
             Command1_Click(choice);
             return true;
         }
-        // Any other character is swallowed on the buttons and the lists; Space and Enter
-        // still press a button.
+        // Any other character is swallowed on the buttons and the lists, so that a list's own
+        // key search never moves the row; Space and Enter still press a button.
         const QChar c = text.at(0);
-        if (!onText && c.isPrint() && c != QLatin1Char(' ')) {
+        if (!onText && c.isPrint() && (onList || c != QLatin1Char(' '))) {
             return true;
         }
     }

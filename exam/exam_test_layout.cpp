@@ -6,6 +6,7 @@
 #include "platform/control_names.h"
 #include "platform/fixed_pitch_font.h"
 #include "platform/rich_text_view.h"
+#include "platform/text_frame.h"
 
 #include <QFrame>
 #include <QGridLayout>
@@ -70,7 +71,7 @@ void ExamTest::buildControls() {
     moves->addStretch();
 
     auto* item = new QVBoxLayout;
-    item->addWidget(RichTextBox1, 1);
+    item->addWidget(TextFrame::around(RichTextBox1, "Shape3"), 1);
     item->addLayout(answers);
     item->addLayout(moves);
 

@@ -11,6 +11,7 @@
 #include "platform/dialogs.h"
 #include "platform/fixed_pitch_font.h"
 #include "platform/rich_text_view.h"
+#include "platform/text_frame.h"
 
 #include <QCloseEvent>
 #include <QGroupBox>
@@ -88,7 +89,7 @@ void Results::buildControls() {
     left->addWidget(answers, 1);
     auto* columns = new QHBoxLayout;
     columns->addLayout(left);
-    columns->addWidget(RichTextBox1, 1);
+    columns->addWidget(TextFrame::around(RichTextBox1, "Shape2"), 1);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(columns, 1);
     layout->addLayout(buttons);

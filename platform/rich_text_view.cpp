@@ -7,6 +7,7 @@
 
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QScrollBar>
 #include <QTextDocumentFragment>
 
 #include <algorithm>
@@ -21,6 +22,25 @@ RichTextView::RichTextView(QWidget* parent) : QTextEdit(parent) {
 void RichTextView::setTextRtf(std::string_view rtf) {
     readRtf(rtf, *document());
     setTextCursor(QTextCursor(document()));
+}
+
+void RichTextView::swapTextRtf(std::string_view rtf) {
+    keepingReadingPlace([this, rtf] { setTextRtf(rtf); });
+}
+
+void RichTextView::keepingReadingPlace(const std::function<void()>& change) {
+    QScrollBar* bar = verticalScrollBar();
+    if (bar->value() == 0) {
+        change();
+        return;
+    }
+    // The line that shows at the top: a few pixels down, so that a line whose top stands at the
+    // edge counts, and not the one ending there.
+    const int place = cursorForPosition(QPoint(0, 3)).position();
+    change();
+    QTextCursor cursor(document());
+    cursor.setPosition(std::min(place, document()->characterCount() - 1));
+    bar->setValue(bar->value() + cursorRect(cursor).top());
 }
 
 std::string RichTextView::textRtf() const {
@@ -102,12 +122,14 @@ void RichTextView::selPrint(Printer& printer) const {
 
 void RichTextView::setRightMargin(int twips) {
     m_rightMarginTwips = std::max(0, twips);
-    if (m_rightMarginTwips == 0) {
-        setLineWrapMode(QTextEdit::WidgetWidth);
-    } else {
-        setLineWrapMode(QTextEdit::FixedPixelWidth);
-        setLineWrapColumnOrWidth(static_cast<int>(twipsToPixels(m_rightMarginTwips)));
-    }
+    keepingReadingPlace([this] {
+        if (m_rightMarginTwips == 0) {
+            setLineWrapMode(QTextEdit::WidgetWidth);
+        } else {
+            setLineWrapMode(QTextEdit::FixedPixelWidth);
+            setLineWrapColumnOrWidth(static_cast<int>(twipsToPixels(m_rightMarginTwips)));
+        }
+    });
 }
 
 void RichTextView::setCopyOnly(bool copyOnly) {

@@ -3,6 +3,7 @@
 
 #include <QTextEdit>
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -20,6 +21,9 @@ public:
     // The whole document as RTF; text behind the first balanced closing brace is not read.
     void setTextRtf(std::string_view rtf);
     std::string textRtf() const;
+    // Another version of the same text, the large one or the normal one: the line at the top
+    // of the view stays there, so the reader keeps the place.
+    void swapTextRtf(std::string_view rtf);
 
     // The plain text, one character for each position of selStart: paragraphs end in '\n'.
     QString text() const;
@@ -56,6 +60,9 @@ protected:
     void insertFromMimeData(const QMimeData* source) override;
 
 private:
+    // Runs change and scrolls back to the character that stood at the top of the view.
+    void keepingReadingPlace(const std::function<void()>& change);
+
     int m_rightMarginTwips = 0;
     bool m_copyOnly = false;
 };

@@ -1,5 +1,7 @@
 #include "platform/windows1252.h"
 
+#include <algorithm>
+
 namespace tessera {
 namespace {
 
@@ -40,6 +42,11 @@ int windows1252Byte(char16_t unit) {
             return 0x80 + i;
     }
     return -1;
+}
+
+bool inWindows1252(QStringView text) {
+    return std::all_of(text.begin(), text.end(),
+                       [](QChar ch) { return windows1252Byte(ch.unicode()) >= 0; });
 }
 
 std::string toWindows1252(QStringView text) {

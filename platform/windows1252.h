@@ -17,5 +17,7 @@ QString fromWindows1252(std::string_view bytes);
 std::string toWindows1252(QStringView text);
 // The Windows-1252 byte of a character, or -1 if the code page has none.
 int windows1252Byte(char16_t unit);
+// True when every character of text has its byte in the code page.
+bool inWindows1252(QStringView text);
 
 } // namespace tessera

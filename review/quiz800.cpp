@@ -36,7 +36,7 @@ Quiz800::Quiz800(ScreenContext& context)
     : m_context(context), m_state(context.state), m_session(context.state, context.services) {
     buildControls();
     if (!m_state.IncludeProgressReport)
-        m_gauge->hide();
+        m_gauge->hideScore();
     m_session.start();
     showSession();
     m_context.screens.setNavigationEnabled(false);

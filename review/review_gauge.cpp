@@ -98,6 +98,13 @@ void ReviewGauge::showScore(float score, bool passing) {
     placeControls();
 }
 
+void ReviewGauge::hideScore() {
+    for (QWidget* part : {static_cast<QWidget*>(Shape1), static_cast<QWidget*>(Label1),
+                          static_cast<QWidget*>(Label9), static_cast<QWidget*>(Label10),
+                          static_cast<QWidget*>(HandShake)})
+        part->hide();
+}
+
 void ReviewGauge::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
     placeControls();

@@ -20,6 +20,8 @@ public:
     void setPassingGrade(int grade);
     // Bar height and colour, and the hand-shake, for a score and whether it passes.
     void showScore(float score, bool passing);
+    // Without a progress report only the scale line stays.
+    void hideScore();
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

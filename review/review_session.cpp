@@ -210,12 +210,11 @@ void ReviewSession::applyWish() {
         coinToss();
         break;
     case 2:
-        setFeedback("Take a Free Guess!", NeutralColour);
+        setFeedback("Take a Free Guess!");
         break;
     case 3:
         setFeedback("Here's what the expert says!" + m_state.catalogue.CrLf +
-                        "(Scroll down as needed.)",
-                    NeutralColour);
+                    "(Scroll down as needed.)");
         revealAnswer();
         m_state.ActiveWish = 0;
         break;
@@ -228,7 +227,7 @@ void ReviewSession::applyWish() {
 
 void ReviewSession::coinToss() {
     const int right = RightAnswer - FirstLetter;
-    setFeedback("Now it's a coin toss!", NeutralColour);
+    setFeedback("Now it's a coin toss!");
     std::array<bool, AnswerCount> marks{};
     for (int i = 0; i < AnswerCount; ++i)
         marks[static_cast<size_t>(i)] = i != right && isOpen(i);
@@ -340,6 +339,10 @@ void ReviewSession::updatePerformance() {
 void ReviewSession::setFeedback(const std::string& text, int colour) {
     m_feedback = text;
     m_feedbackColour = colour;
+}
+
+void ReviewSession::setFeedback(const std::string& text) {
+    m_feedback = text;
 }
 
 void ReviewSession::setDocument(const std::string& rtf) {

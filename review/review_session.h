@@ -97,6 +97,8 @@ private:
     SaveResult saveTest();
     void updatePerformance();
     void setFeedback(const std::string& text, int colour);
+    // A wish's line takes the colour the feedback has already.
+    void setFeedback(const std::string& text);
     void setDocument(const std::string& rtf);
     void setOpen(std::initializer_list<int> commands, bool open);
     bool isLastPosition() const;

@@ -45,6 +45,8 @@ Calculator::Calculator(ScreenContext& context, QWidget* parent)
 
     for (int i = 0; i <= SignKey; ++i)
         connect(Number[static_cast<size_t>(i)], &QPushButton::clicked, this, [this, i] {
+            if (i != SignKey && !m_machine.takesDigit(i))
+                return;
             press(CalculatorControl::Number, i);
             Operator[EqualsOperator]->setFocus();
         });

@@ -57,8 +57,12 @@ CalculatorMachine::Message CalculatorMachine::press(CalculatorControl control, i
     return {};
 }
 
+bool CalculatorMachine::takesDigit(int value) const {
+    return value != 0 || NumericValue(m_readout) != 0 || m_pointTyped;
+}
+
 void CalculatorMachine::digit(int value) {
-    if (value == 0 && NumericValue(m_readout) == 0 && !m_pointTyped)
+    if (!takesDigit(value))
         return;
     if (m_lastInput != LastInputKind::Nums) {
         m_readout = ".";

@@ -38,6 +38,8 @@ public:
     // screen's; to the machine, Command1(2) only resets the count of clears.
     Message press(CalculatorControl control, int index = 0);
 
+    // False for "0" on a zero entry before its point: that key does nothing at all.
+    bool takesDigit(int value) const;
     void digit(int value);
     void sign();
     void decimalPoint();

@@ -3,7 +3,7 @@
 #include "core/screen_context.h"
 #include "core/session_state.h"
 #include "platform/rich_text_view.h"
-#include "tools/text_frame.h"
+#include "platform/text_frame.h"
 
 #include <QEvent>
 #include <QVBoxLayout>
@@ -13,14 +13,10 @@ namespace tessera {
 Help::Help(ScreenContext& context) {
     setObjectName(QStringLiteral("Help"));
     setWindowTitle(QStringLiteral("Help"));
-    Shape1 = new TextFrame(this);
     RichTextBox1 = MakeReadOnlyView("RichTextBox1", QStringLiteral("Help text"));
-    auto* frameLayout = new QVBoxLayout(Shape1);
-    frameLayout->setContentsMargins(0, 0, 0, 0);
-    frameLayout->addWidget(RichTextBox1);
+    Shape1 = TextFrame::around(RichTextBox1, "Shape1");
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(Shape1);
-    Shape1->follow(RichTextBox1);
 
     const CourseContent& content = context.state.content;
     const int topic = context.state.HelpTopic;
@@ -35,7 +31,7 @@ void Help::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     // The large version shows while the window is maximised.
     if (event->type() == QEvent::WindowStateChange && RichTextBox1 != nullptr)
-        RichTextBox1->setTextRtf(m_document.forWindow(isMaximized()));
+        RichTextBox1->swapTextRtf(m_document.forWindow(isMaximized()));
 }
 
 } // namespace tessera

@@ -100,6 +100,11 @@ QGroupBox* NoteBook::buildFindPanel() {
     }
     connect(Command2[0], &QPushButton::clicked, this, [this] { FindNext(); });
     connect(Command2[1], &QPushButton::clicked, this, [this] { closeFindPanel(); });
+    // Enter in the box finds, as "&Find Next" would.
+    connect(Text1, &QLineEdit::returnPressed, this, [this] {
+        if (Command2[0]->isEnabled())
+            Command2[0]->click();
+    });
     connect(Text1, &QLineEdit::textChanged, this,
             [this](const QString& text) { Command2[0]->setEnabled(!text.isEmpty()); });
     Frame1->hide();

@@ -6,8 +6,8 @@
 #include "platform/dialogs.h"
 #include "platform/print_rich_text.h"
 #include "platform/rich_text_view.h"
+#include "platform/text_frame.h"
 #include "platform/windows1252.h"
-#include "tools/text_frame.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>
@@ -18,6 +18,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+
 #include <algorithm>
 
 namespace tessera {
@@ -56,7 +57,7 @@ Viewing::Viewing(ScreenContext& context) : m_context(context) {
         Command1[0]->setEnabled(false);
     Command1[1]->setEnabled(m_context.screens.isAvailable(ScreenName::NoteBook));
     Command1[3]->setEnabled(m_context.screens.isAvailable(ScreenName::Help));
-    resize(640, m_glossary ? 640 : 520);
+    resize(640, m_glossary ? GlossaryHeight : 520);
 }
 
 void Viewing::loadDiscussion() {
@@ -74,10 +75,9 @@ void Viewing::loadDiscussion() {
 
 void Viewing::loadGlossary() {
     Command1[0]->hide();
-    RichTextBox1->setFixedHeight(2000 / TwipsPerPixel);
-    RichTextBox2->setFixedHeight(RichTextBox2->fontMetrics().height() * 3);
+    fitGlossaryBoxes();
     RichTextBox2->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    // The text keeps its fixed height; the list takes what the window has to spare.
+    // The two boxes take the heights fitGlossaryBoxes gives them; the list takes the rest.
     if (auto* rows = qobject_cast<QBoxLayout*>(layout())) {
         rows->setStretchFactor(Shape1, 0);
         rows->setStretch(rows->count() - 2, 1);
@@ -108,20 +108,36 @@ void Viewing::showEntry(int position) {
     m_text =
         RtfVersions::of(GlossaryDefinitionDocument(content.RtfHeader, GlossaryDefinition(entry)));
     m_term = RtfVersions::of(GlossaryTermDocument(content.RtfHeader, GlossaryTerm(entry)));
-    showDocuments();
+    showDocuments(false);
 }
 
-void Viewing::showDocuments() {
-    RichTextBox1->setTextRtf(m_text.forWindow(isMaximized()));
+void Viewing::showDocuments(bool keepPlace) {
+    const auto show = keepPlace ? &RichTextView::swapTextRtf : &RichTextView::setTextRtf;
+    (RichTextBox1->*show)(m_text.forWindow(isMaximized()));
     if (m_glossary)
-        RichTextBox2->setTextRtf(m_term.forWindow(isMaximized()));
+        (RichTextBox2->*show)(m_term.forWindow(isMaximized()));
+}
+
+void Viewing::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    if (m_glossary)
+        fitGlossaryBoxes();
+}
+
+void Viewing::fitGlossaryBoxes() {
+    // Both boxes grow with the window from their heights at its opening size, so that a
+    // maximised glossary shows more of a long definition and term.
+    const double grown = std::max(1.0, height() / static_cast<double>(GlossaryHeight));
+    RichTextBox1->setFixedHeight(static_cast<int>(2000 / TwipsPerPixel * grown));
+    RichTextBox2->setFixedHeight(
+        static_cast<int>(RichTextBox2->fontMetrics().height() * 3 * grown));
 }
 
 void Viewing::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     // The large versions show while the window is maximised.
     if (event->type() == QEvent::WindowStateChange && RichTextBox1 != nullptr)
-        showDocuments();
+        showDocuments(true);
 }
 
 bool Viewing::eventFilter(QObject* watched, QEvent* event) {

@@ -49,15 +49,19 @@ public:
 
 protected:
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    static constexpr int GlossaryHeight = 640; // the glossary's opening height
+
     void buildControls();
     void buildFindPanel();
     void buildLetterButtons();
     void loadDiscussion();
     void loadGlossary();
-    void showDocuments();
+    void showDocuments(bool keepPlace); // keepPlace: the same text in another size
+    void fitGlossaryBoxes();
     void showEntry(int position);
 
     void Command1_Click(int index);

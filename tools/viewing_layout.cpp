@@ -1,6 +1,6 @@
 #include "platform/control_names.h"
 #include "platform/rich_text_view.h"
-#include "tools/text_frame.h"
+#include "platform/text_frame.h"
 #include "tools/viewing.h"
 
 #include <QCheckBox>

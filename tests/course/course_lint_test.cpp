@@ -200,6 +200,10 @@ TEST_F(CourseLint, CompiledCourseCutsBackIntoTheSameItemsAndEntries) {
                   0u)
             << Place(entry.place) << ": definition cut wrongly";
     }
+    // The report cards' Help buttons open topics 13 and 14: each on its own screen's text.
+    for (const auto& [topic, screen] :
+         {std::pair{13, "Screening Exam Report Card"}, std::pair{14, "Monitor Spreadsheet"}})
+        EXPECT_NE(content.HelpTexts[topic].find(screen), std::string::npos) << "help " << topic;
 }
 
 TEST_F(CourseLint, PicturesAreImagesOfTheCataloguedSize) {

@@ -100,7 +100,10 @@ private Q_SLOTS:
         QCOMPARE(rows(&exam, "List1_0"), QStringList{QStringLiteral("   1  A")});
         QCOMPARE(Control<QWidget>(&exam, "Frame1")->property("title").toString(),
                  QStringLiteral(" 1 Answered           2 Remaining"));
-        QTest::keyClick(Control<QListWidget>(&exam, "List1_1"), Qt::Key_A);
+        auto* remaining = Control<QListWidget>(&exam, "List1_1");
+        QTest::keyClick(remaining, Qt::Key_Space); // swallowed: no key search to another row
+        QCOMPARE(remaining->currentRow(), 0);
+        QTest::keyClick(remaining, Qt::Key_A);
         QCOMPARE(f->state.ExamAnswers[2], int16_t(1));
 
         f->clock.advanceSeconds(60);
@@ -141,6 +144,12 @@ private Q_SLOTS:
                          QStringLiteral("Time has expired!"));
             QVERIFY(!Control<QPushButton>(&exam, "Command1_1")->isEnabled());
             QTRY_VERIFY(Control<QPushButton>(&exam, "Command1_8")->hasFocus());
+            auto* text = Control<RichTextView>(&exam, "RichTextBox1");
+            QVERIFY(text->toPlainText().isEmpty());
+            const int margin = text->rightMargin();        // taken from Shape3, the text's frame
+            exam.resize(exam.width() + 40, exam.height()); // Form_Resize puts the item back
+            QVERIFY(text->toPlainText().contains(QStringLiteral("Question 1.2")));
+            QVERIFY(margin > 0 && text->rightMargin() > margin);
             exam.close();
         }
         QCOMPARE(f->state.ExamElapsed, 5 / 1440.0);
@@ -180,6 +189,8 @@ private Q_SLOTS:
         f->state.ExamScore = 1.0f / 3.0f;
         f->state.ExamPosition = 0;
         Results results(f->context);
+        results.show();
+        QVERIFY(Control<RichTextView>(&results, "RichTextBox1")->rightMargin() > 0); // Shape2
         expectAccessibleNames(&results);
         QCOMPARE(Control<QLabel>(&results, "Label1_3")->text(),
                  QStringLiteral("Correct          1   33.3%"));

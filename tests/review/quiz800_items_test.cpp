@@ -174,6 +174,7 @@ private Q_SLOTS:
         quiz->wish(1);
         QVERIFY(quiz->offered()[0]);
         QCOMPARE(quiz->label("Label2"), QStringLiteral("Now it's a coin toss!"));
+        QCOMPARE(quiz->labelColour("Label2"), 255); // a wish changes the words, not the red
         for (int i = 0; i < 4; ++i)
             QCOMPARE(quiz->button(i)->isEnabled(), i == quiz->right() || i == survivor);
         const QString text = quiz->documentText();
@@ -191,7 +192,14 @@ private Q_SLOTS:
 
     void expertAdviceKeepsTheItemOpen() {
         f->state.TimerActive = true;
+        f->state.IncludeProgressReport = false; // the gauge keeps only its scale line
         auto quiz = open(1);
+        const auto shown = [&quiz](const char* part) {
+            const auto* gauge = quiz->screen().findChild<QWidget*>(QStringLiteral("Gauge"));
+            return gauge->findChild<QWidget*>(QString::fromLatin1(part))
+                ->isVisibleTo(&quiz->screen());
+        };
+        QVERIFY(shown("Shape2") && !shown("Shape1") && !shown("Label9"));
         QVERIFY(quiz->screen().Timer1->isActive());
         quiz->wish(3);
         QCOMPARE(quiz->label("Label2"),

@@ -244,6 +244,7 @@ private Q_SLOTS:
                  QStringList{QStringLiteral("Change to NoteBook Detected!")});
         QCOMPARE(m_doubles->dialogs.messages()[0].text,
                  QStringLiteral("Save your changes to disk?"));
+        QCOMPARE(m_doubles->dialogs.messages()[0].icon, MessageIcon::None);
         QCOMPARE(notebook.saves, 1);
         QVERIFY(!m_folder->exists("TesseraAppRunning"));
         QVERIFY(m_host->programEnded());

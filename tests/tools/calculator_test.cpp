@@ -51,6 +51,8 @@ private Q_SLOTS:
 
     void typedKeysWorkWhereverTheFocusStands() {
         button("Command1_3")->setFocus();
+        button("Number_0")->click(); // on "0." it does nothing at all, not even move the focus
+        QCOMPARE(QApplication::focusWidget(), button("Command1_3"));
         QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("2+3"));
         // A digit leaves the focus on "=", so Enter means "=" after a number.
         QCOMPARE(QApplication::focusWidget(), button("Operator_4"));

@@ -8,6 +8,9 @@
 #include "tools/help.h"
 
 #include <QApplication>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QTextDocument>
 #include <QtTest>
 
 namespace tessera {
@@ -62,13 +65,29 @@ private Q_SLOTS:
         Application app(doubles.services);
         FillSmallCourse(app.state());
         app.state().HelpTopic = 5;
+        std::string& text = app.state().content.HelpTexts[5];
+        text = "\\par \\fs24 Help text 5";
+        for (int line = 1; line <= 150; ++line)
+            text += "\r\n\\par Line " + std::to_string(line);
+        text += "\r\n\\par }\r\n";
         auto* help = qobject_cast<Help*>(app.show(ScreenName::Help));
         QVERIFY(help != nullptr);
         QCOMPARE(shownFontSize(*help), 12.0); // \fs24
+        RichTextView* view = help->RichTextBox1;
+        const QString reading = QStringLiteral("Line 64");
+        view->verticalScrollBar()->setValue(
+            view->cursorRect(view->document()->find(reading)).top()); // Line 64 at the top
+        const auto topLine = [view] {
+            return view->cursorForPosition(QPoint(0, 5)).block().text();
+        };
+        QCOMPARE(topLine(), reading);
         help->showMaximized();
         QCOMPARE(shownFontSize(*help), 17.0); // \fs34
+        QCOMPARE(topLine(), reading);         // the reader keeps the place
+        help->showMinimized();
         help->showNormal();
         QCOMPARE(shownFontSize(*help), 12.0);
+        QCOMPARE(topLine(), reading);
 
         const QString before = help->RichTextBox1->text();
         QTest::keyClicks(help->RichTextBox1, QStringLiteral("typed"));

@@ -52,6 +52,11 @@ private Q_SLOTS:
         QVERIFY(viewing->RichTextBox1->text().contains(QStringLiteral("Meaning number 1.")));
         QVERIFY(!viewing->Command3[Q]->isEnabled());
         QVERIFY(!viewing->Command1[0]->isVisible());
+        const QSize definition = viewing->RichTextBox1->size(),
+                    term = viewing->RichTextBox2->size();
+        viewing->resize(viewing->width(), 2 * viewing->height()); // as maximising does
+        QVERIFY(viewing->RichTextBox1->height() > definition.height());
+        QVERIFY(viewing->RichTextBox2->height() > term.height());
 
         press(*viewing, M);
         QCOMPARE(selectedTerm(*viewing), QStringLiteral("Mterm 001"));

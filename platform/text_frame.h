@@ -1,6 +1,6 @@
 #pragma once
-// Shape1 of the reading screens: the frame around their rich text, whose width sets where the
-// text wraps, and the read-only views inside it.
+// The shape that frames a screen's rich text (Shape1 of the reading screens, Shape2 of
+// Results, Shape3 of ExamTest), whose width sets where the text wraps, and the read-only views.
 
 #include <QFrame>
 
@@ -19,6 +19,9 @@ public:
 
     // The view's right margin follows this frame's width from now on.
     void follow(RichTextView* view);
+
+    // A frame named objectName that holds view alone and that view's margin follows.
+    static TextFrame* around(RichTextView* view, const char* objectName);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

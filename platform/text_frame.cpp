@@ -1,9 +1,10 @@
-#include "tools/text_frame.h"
+#include "platform/text_frame.h"
 
 #include "platform/control_names.h"
 #include "platform/rich_text_view.h"
 
 #include <QStyle>
+#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -23,6 +24,16 @@ TextFrame::TextFrame(QWidget* parent) : QFrame(parent) {
 void TextFrame::follow(RichTextView* view) {
     m_views.push_back(view);
     applyMargins();
+}
+
+TextFrame* TextFrame::around(RichTextView* view, const char* objectName) {
+    auto* frame = new TextFrame;
+    frame->setObjectName(QString::fromLatin1(objectName));
+    auto* layout = new QVBoxLayout(frame);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(view);
+    frame->follow(view);
+    return frame;
 }
 
 void TextFrame::resizeEvent(QResizeEvent* event) {
