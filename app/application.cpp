@@ -55,16 +55,17 @@ Application::Application(std::unique_ptr<RealServices> own)
     : m_ownServices(std::move(own)),
       m_services(m_ownServices->services), m_context{m_state, m_services, *this} {
     RegisterAllScreens(m_registry);
-    takeOverTheEnd();
+    joinTheDesktop();
 }
 
 Application::Application(Services& services)
     : m_services(services), m_context{m_state, m_services, *this} {
     RegisterAllScreens(m_registry);
-    takeOverTheEnd();
+    joinTheDesktop();
 }
 
-void Application::takeOverTheEnd() {
+void Application::joinTheDesktop() {
+    QCoreApplication::instance()->installEventFilter(&m_enterKeys);
     // Only the navigation screen ends the program; the last window closing, a message box of
     // start-up or a modal screen, must not.
     QApplication::setQuitOnLastWindowClosed(false);

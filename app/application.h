@@ -5,6 +5,7 @@
 #include "core/screen_context.h"
 #include "core/screen_registry.h"
 #include "core/session_state.h"
+#include "platform/desktop_keys.h"
 
 #include <QObject>
 #include <QPointer>
@@ -49,7 +50,7 @@ protected:
 
 private:
     explicit Application(std::unique_ptr<RealServices> own);
-    static void takeOverTheEnd();
+    void joinTheDesktop();
     void forget(QObject* screen);
     void placeWindow(ScreenName name, QWidget* screen) const;
     void storeWindowPlace(ScreenName name, const QWidget* screen);
@@ -60,6 +61,7 @@ private:
     ScreenRegistry m_registry;
     ScreenContext m_context;
     std::map<ScreenName, QPointer<QWidget>> m_loaded;
+    EnterPressesButton m_enterKeys;
     bool m_ended = false;
 };
 

@@ -3,6 +3,7 @@
 #include "core/screen_text.h"
 #include "core/start_up.h"
 #include "platform/clock.h"
+#include "platform/dialogs.h"
 #include "platform/windows1252.h"
 
 #include <QCloseEvent>
@@ -115,6 +116,7 @@ void Pubdat::buildControls() {
     Timer1->setObjectName(QStringLiteral("Timer1"));
     Timer1->setInterval(TimerInterval);
     connect(Timer1, &QTimer::timeout, this, &Pubdat::Timer1_Timer);
+    m_context.services.dialogs.holdBack(Timer1);
     resize(640, 440);
 }
 

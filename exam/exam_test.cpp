@@ -279,8 +279,8 @@ bool ExamTest::eventFilter(QObject* watched, QEvent* event) {
             Command1_Click(choice);
             return true;
         }
-        // Any other character is swallowed on the buttons and the lists, so that a list's own
-        // key search never moves the row; Space and Enter still press a button.
+        // Any other character is swallowed on the buttons and the lists. Space presses the
+        // focused button itself; Enter is pressed through the application's key filter.
         const QChar c = text.at(0);
         if (!onText && c.isPrint() && (onList || c != QLatin1Char(' '))) {
             return true;

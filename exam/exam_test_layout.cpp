@@ -5,6 +5,7 @@
 
 #include "platform/control_names.h"
 #include "platform/fixed_pitch_font.h"
+#include "platform/dialogs.h"
 #include "platform/rich_text_view.h"
 #include "platform/text_frame.h"
 
@@ -100,10 +101,14 @@ void ExamTest::buildControls() {
     }
 
     Timer1 = new QTimer(this);
+    Timer1->setObjectName(QStringLiteral("Timer1"));
     Timer1->setInterval(200);
     Timer2 = new QTimer(this);
+    Timer2->setObjectName(QStringLiteral("Timer2"));
     Timer2->setInterval(300);
-    resize(820, 560);
+    m_context.services.dialogs.holdBack(Timer1);
+    m_context.services.dialogs.holdBack(Timer2);
+    resize(780, 540);
 }
 
 QWidget* ExamTest::buildSidePanel() {

@@ -30,10 +30,8 @@ Results::Results(ScreenContext& context) : m_context(context) {
     SessionState& s = m_context.state;
     const ResultsTally tally = CountResults(s);
     m_summary = SummaryLines(tally, s.ExamItemCount, s.ExamElapsed);
-    for (int i = 0; i < 6; ++i) {
+    for (int i = 0; i < 6; ++i)
         Label1[i]->setText(Text(m_summary[i]));
-        Label1[i]->setAccessibleName(Label1[i]->text().simplified());
-    }
     fillList();
     connect(List1, &QListWidget::currentRowChanged, this, [this](int row) {
         if (row >= 0) {

@@ -1,12 +1,34 @@
 #include "platform/control_names.h"
 
-#include <QWidget>
+#include <QAbstractButton>
+#include <QGroupBox>
+#include <QLabel>
 
 namespace tessera {
 
+namespace {
+
+bool ShowsItsCaption(const QWidget* control) {
+    if (const auto* label = qobject_cast<const QLabel*>(control))
+        return label->pixmap().isNull();
+    return qobject_cast<const QAbstractButton*>(control) != nullptr ||
+           qobject_cast<const QGroupBox*>(control) != nullptr;
+}
+
+} // namespace
+
+void DescribeControl(QWidget* control, const QString& words) {
+    if (ShowsItsCaption(control)) {
+        control->setAccessibleName(QString());
+        control->setAccessibleDescription(words);
+    } else {
+        control->setAccessibleName(words);
+    }
+}
+
 void NameControl(QWidget* control, const QString& objectName, const QString& accessibleName) {
     control->setObjectName(objectName);
-    control->setAccessibleName(accessibleName);
+    DescribeControl(control, accessibleName);
 }
 
 void NameControl(QWidget* control, const char* array, int index, const QString& accessibleName) {

@@ -1,12 +1,18 @@
 #pragma once
 // How every screen names its controls: the object name the screens and tests find a control
-// by, and the name a screen reader speaks.
+// by, and what a screen reader speaks.
 
 #include <QString>
 
 class QWidget;
 
 namespace tessera {
+
+// A control that shows a caption or a figure (button, option, check box, label, frame) is
+// spoken as what it shows at that moment, so its name never goes stale; the words given
+// describe it. Any other control (a text view, a list, a bar, a picture) is spoken as the
+// words given.
+void DescribeControl(QWidget* control, const QString& words);
 
 void NameControl(QWidget* control, const QString& objectName, const QString& accessibleName);
 

@@ -60,8 +60,8 @@ QString displayText(const QString& text) {
 
 } // namespace
 
-MessageAnswer QtDialogs::message(const QString& text, const QString& title, MessageIcon icon,
-                                 MessageButtons buttons) {
+MessageAnswer QtDialogs::showMessage(const QString& text, const QString& title, MessageIcon icon,
+                                     MessageButtons buttons) {
     QMessageBox box(boxIcon(icon), title, displayText(text), boxButtons(buttons),
                     QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
@@ -74,7 +74,7 @@ MessageAnswer QtDialogs::message(const QString& text, const QString& title, Mess
     return answerOf(box.exec());
 }
 
-QString QtDialogs::input(const QString& prompt, const QString& title, const QString& initial) {
+QString QtDialogs::showInput(const QString& prompt, const QString& title, const QString& initial) {
     bool accepted = false;
     const QString text =
         QInputDialog::getText(QApplication::activeWindow(), title, displayText(prompt),

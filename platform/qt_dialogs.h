@@ -7,9 +7,9 @@ namespace tessera {
 
 class QtDialogs final : public Dialogs {
 public:
-    MessageAnswer message(const QString& text, const QString& title, MessageIcon icon,
-                          MessageButtons buttons) override;
-    QString input(const QString& prompt, const QString& title, const QString& initial) override;
+    MessageAnswer showMessage(const QString& text, const QString& title, MessageIcon icon,
+                              MessageButtons buttons) override;
+    QString showInput(const QString& prompt, const QString& title, const QString& initial) override;
 };
 
 } // namespace tessera

@@ -135,6 +135,8 @@ void RichTextView::setRightMargin(int twips) {
 void RichTextView::setCopyOnly(bool copyOnly) {
     m_copyOnly = copyOnly;
     setReadOnly(copyOnly);
+    // Text that cannot be changed shows no caret; the keyboard still selects for copying.
+    setCursorWidth(copyOnly ? 0 : 1);
     if (copyOnly)
         setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
 }

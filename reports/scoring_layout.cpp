@@ -57,11 +57,11 @@ Scoring::Scoring(ScreenContext& context, std::array<QLabel*, 12> labels)
                    {0, "", 0, "Exam Title"}},
                   84,
                   13,
-                  {QStringLiteral("Earliest Date &Taken"), QStringLiteral("&Latest Date Taken"),
-                   QStringLiteral("Percent &Correct"), QStringLiteral("&Questions Asked"),
-                   QStringLiteral("Percent &Unsure")},
-                  {QStringLiteral("&All Questions"), QStringLiteral("&Missed Questions"),
-                   QStringLiteral("U&nsure Questions")},
+                  {QStringLiteral("Earliest Date Taken"), QStringLiteral("Latest Date Taken"),
+                   QStringLiteral("Percent Correct"), QStringLiteral("Questions Asked"),
+                   QStringLiteral("Percent Unsure")},
+                  {QStringLiteral("All Questions"), QStringLiteral("Missed Questions"),
+                   QStringLiteral("Unsure Questions")},
                   {QStringLiteral("&Print"), QStringLiteral("&Erase Exam"), QStringLiteral("&Done"),
                    QStringLiteral("&Help"), QStringLiteral("&Retake Exam"),
                    QStringLiteral("&View Results")},
@@ -77,7 +77,7 @@ Scoring::Scoring(ScreenContext& context, std::array<QLabel*, 12> labels)
                  labels[10], labels[8], {labels[9]}),
       Label1(labels) {
     setObjectName(QStringLiteral("Scoring"));
-    resize(820, 540);
+    resize(780, 540);
     m_rows = LoadScoringRows(ReadExamRecords());
     showLoadedRows();
 }

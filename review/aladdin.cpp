@@ -1,5 +1,6 @@
 #include "review/aladdin.h"
 
+#include "platform/control_names.h"
 #include "review/review_text.h"
 
 #include <QButtonGroup>
@@ -44,7 +45,7 @@ Aladdin::Aladdin(SessionState& state, ScreenHost& screens, int enabledAnswers, Q
         auto* left = new QLabel(frame);
         left->setObjectName(QStringLiteral("Label2_%1").arg(i));
         left->setAlignment(Qt::AlignCenter);
-        left->setAccessibleName(caption + QStringLiteral(", number remaining"));
+        DescribeControl(left, caption + QStringLiteral(", number remaining"));
         Label2[static_cast<size_t>(i)] = left;
         grid->addWidget(option, i + 1, 0);
         grid->addWidget(left, i + 1, 1);

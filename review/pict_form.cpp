@@ -17,6 +17,10 @@ PictForm::PictForm(ScreenContext& /*context*/) : PictForm(nullptr) {}
 PictForm::PictForm(QWidget* parent) : QWidget(parent, Qt::Window), Image1(new QLabel(this)) {
     setObjectName(QStringLiteral("PictForm"));
     setWindowTitle(QStringLiteral("Form1"));
+    // It opens beside its item and leaves the keyboard there, so letters typed next answer;
+    // a picture has nothing to type into.
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setWindowFlag(Qt::WindowDoesNotAcceptFocus);
     Image1->setObjectName(QStringLiteral("Image1"));
     // ReSize1: the image follows the window's size.
     Image1->setScaledContents(true);

@@ -4,6 +4,7 @@
 #include "review/quiz800.h"
 
 #include "platform/control_names.h"
+#include "platform/dialogs.h"
 #include "platform/rich_text_view.h"
 #include "review/review_gauge.h"
 
@@ -50,10 +51,10 @@ QPushButton* Quiz800::makeCommand(int index, const QString& caption,
 void Quiz800::buildControls() {
     setObjectName(QStringLiteral("Quiz800"));
     setMinimumSize(760, 520);
-    resize(900, 640);
+    resize(780, 540);
 
     Label2 = makeLabel(this, "Label2", {});
-    Label2->setAccessibleName(QStringLiteral("Item and feedback"));
+    DescribeControl(Label2, QStringLiteral("Item and feedback"));
     Label2->setWordWrap(true);
     Label2->setMinimumHeight(2 * Label2->fontMetrics().height() + 8);
     Label2->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -79,7 +80,7 @@ void Quiz800::buildControls() {
     Label5 = makeLabel(Frame1, "Label5", QStringLiteral("Tries:"));
     Label11 = makeLabel(Frame1, "Label11", QStringLiteral("Wild Guesses:"));
     Label6 = makeLabel(Frame1, "Label6", {});
-    Label6->setAccessibleName(QStringLiteral("Score"));
+    DescribeControl(Label6, QStringLiteral("Score"));
     Label6->setAlignment(Qt::AlignCenter);
     enlarge(Label6, 1.6, true);
     // The score's pure green and red read best on a dark board, shown once there is a score.
@@ -108,6 +109,7 @@ void Quiz800::buildControls() {
     Timer1->setObjectName(QStringLiteral("Timer1"));
     Timer1->setInterval(200);
     connect(Timer1, &QTimer::timeout, this, &Quiz800::Timer1_Timer);
+    m_context.services.dialogs.holdBack(Timer1);
 
     // Answers first in the tab order, then the way on, then the desk tools.
     auto* answers = new QHBoxLayout;

@@ -1,6 +1,7 @@
 #include "review/review_gauge.h"
 
 #include "core/screen_colours.h"
+#include "platform/control_names.h"
 #include "review/item_scoring.h"
 #include "review/review_text.h"
 
@@ -79,8 +80,8 @@ int ReviewGauge::GaugeHeight() const {
 void ReviewGauge::setPassingGrade(int grade) {
     m_grade = grade;
     Label1->setText(QStringLiteral("<----\n") + QString::fromStdString(WholePercentText(grade)));
-    Label1->setAccessibleName(QStringLiteral("Pass mark ") +
-                              QString::fromStdString(WholePercentText(grade)));
+    DescribeControl(Label1,
+                    QStringLiteral("Pass mark ") + QString::fromStdString(WholePercentText(grade)));
     placeControls();
     Shape1->show();
 }

@@ -2,6 +2,7 @@
 
 #include "core/screen_text.h"
 #include "platform/clock.h"
+#include "platform/control_names.h"
 #include "platform/dialogs.h"
 #include "platform/sound.h"
 #include "tools/alarm_time.h"
@@ -156,12 +157,10 @@ void AlarmForm::Timer1_Timer() {
 void AlarmForm::soundAlarm(int now) {
     m_context.services.sound.tone(1760, 800);
     // The message box holds the ticks back until the candidate closes it.
-    Timer1->stop();
     m_context.services.dialogs.message(QStringLiteral("Alarm at ") + LongTimeText(now),
                                        QStringLiteral("Hello, ") +
                                            ShownUserName(m_context.state.UserName),
                                        MessageIcon::Exclamation, MessageButtons::Ok);
-    Timer1->start(300);
     m_alarmSounded = true;
     showNormal();
     Image1->hide();
@@ -200,10 +199,11 @@ void AlarmForm::buildControls() {
     Timer1 = new QTimer(this);
     Timer1->setObjectName(QStringLiteral("Timer1"));
     connect(Timer1, &QTimer::timeout, this, &AlarmForm::Timer1_Timer);
+    m_context.services.dialogs.holdBack(Timer1);
 
     lblTime = new QLabel(this);
     lblTime->setObjectName(QStringLiteral("lblTime"));
-    lblTime->setAccessibleName(QStringLiteral("Time now"));
+    DescribeControl(lblTime, QStringLiteral("Time now"));
     QFont large = lblTime->font();
     large.setPointSizeF(large.pointSizeF() * 2.2);
     large.setBold(true);
@@ -220,7 +220,7 @@ void AlarmForm::buildControls() {
     Image1->setSizePolicy(keepPlace);
     Label1 = new QLabel(this);
     Label1->setObjectName(QStringLiteral("Label1"));
-    Label1->setAccessibleName(QStringLiteral("Alarm setting"));
+    DescribeControl(Label1, QStringLiteral("Alarm setting"));
     Label1->setAlignment(Qt::AlignCenter);
     QFont setting = Label1->font();
     setting.setPointSizeF(setting.pointSizeF() * 1.4);

@@ -64,10 +64,10 @@ Calculator::Calculator(ScreenContext& context, QWidget* parent)
 
     Readout = new QLabel(QString::fromStdString(m_machine.readout()), this);
     Readout->setObjectName(QStringLiteral("Readout"));
-    Readout->setAccessibleName(QStringLiteral("Display"));
+    DescribeControl(Readout, QStringLiteral("Display"));
     Label1 = new QLabel(this);
     Label1->setObjectName(QStringLiteral("Label1"));
-    Label1->setAccessibleName(QStringLiteral("Memory"));
+    DescribeControl(Label1, QStringLiteral("Memory"));
     installEventFilter(this);
     buildLayout();
 }

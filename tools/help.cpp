@@ -2,6 +2,7 @@
 
 #include "core/screen_context.h"
 #include "core/session_state.h"
+#include "platform/desktop_keys.h"
 #include "platform/rich_text_view.h"
 #include "platform/text_frame.h"
 
@@ -13,6 +14,7 @@ namespace tessera {
 Help::Help(ScreenContext& context) {
     setObjectName(QStringLiteral("Help"));
     setWindowTitle(QStringLiteral("Help"));
+    CloseOnEscape(this);
     RichTextBox1 = MakeReadOnlyView("RichTextBox1", QStringLiteral("Help text"));
     Shape1 = TextFrame::around(RichTextBox1, "Shape1");
     auto* layout = new QVBoxLayout(this);

@@ -3,6 +3,7 @@
 #include "core/item_text.h"
 #include "core/screen_context.h"
 #include "core/session_state.h"
+#include "platform/desktop_keys.h"
 #include "platform/dialogs.h"
 #include "platform/print_rich_text.h"
 #include "platform/rich_text_view.h"
@@ -41,6 +42,7 @@ QString WithoutAccelerators(QString caption) {
 Viewing::Viewing(ScreenContext& context) : m_context(context) {
     setObjectName(QStringLiteral("Viewing"));
     buildControls();
+    CloseOnEscape(this);
     const SessionState& state = m_context.state;
     m_glossary = state.ViewerSection == GlossarySection;
     QString title;

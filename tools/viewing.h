@@ -53,7 +53,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    static constexpr int GlossaryHeight = 640; // the glossary's opening height
+    static constexpr int GlossaryHeight = 552; // the glossary's opening height
 
     void buildControls();
     void buildFindPanel();

@@ -5,7 +5,9 @@
 #include "exam/exam_set.h"
 #include "exam/exam_test.h"
 #include "exam/results.h"
+#include "platform/desktop_keys.h"
 #include "platform/rich_text_view.h"
+#include "tests/support/screen_checks.h"
 #include "tests/support/screen_fixture.h"
 
 #include <QCheckBox>
@@ -22,6 +24,7 @@ class ExamScreensTest : public QObject {
     Q_OBJECT
 
 private:
+    EnterPressesButton enterKeys; // as the application installs it
     std::unique_ptr<ScreenFixture> f;
 
     static void click(QWidget* screen, const char* name) {
@@ -35,13 +38,6 @@ private:
         }
         return texts;
     }
-    static void expectAccessibleNames(QWidget* screen) {
-        for (QWidget* child : screen->findChildren<QWidget*>()) {
-            if (child->focusPolicy() != Qt::NoFocus && child->isVisibleTo(screen)) {
-                QVERIFY2(!child->accessibleName().isEmpty(), qPrintable(child->objectName()));
-            }
-        }
-    }
     bool shown(ScreenName name) const {
         const auto& calls = f->screens.calls();
         return std::find(calls.begin(), calls.end(), ScreenCall{ScreenCallKind::Show, name}) !=
@@ -49,6 +45,7 @@ private:
     }
 
 private Q_SLOTS:
+    void initTestCase() { QCoreApplication::instance()->installEventFilter(&enterKeys); }
     void init() { f = std::make_unique<ScreenFixture>(); }
     void cleanup() { f.reset(); }
 
@@ -60,7 +57,7 @@ private Q_SLOTS:
                  QStringLiteral("Exam I - Author Prepared - Finished"));
         QVERIFY(!Control<QRadioButton>(&set, "Option3_0")->isEnabled());
         QVERIFY(Control<QRadioButton>(&set, "Option3_1")->isChecked());
-        expectAccessibleNames(&set);
+        QCOMPARE(ControlsWithoutNames(set), QStringList());
 
         QTest::mouseClick(Control<QRadioButton>(&set, "Option3_2"), Qt::LeftButton);
         for (int i = 0; i < TopicCount; ++i) {
@@ -88,14 +85,16 @@ private Q_SLOTS:
         ExamTest exam(f->context);
         exam.show();
         QCOMPARE(exam.windowTitle(), QStringLiteral("Screening Exam I, Item 1 of 3"));
-        expectAccessibleNames(&exam);
+        QCOMPARE(ControlsWithoutNames(exam), QStringList());
         auto* text = Control<RichTextView>(&exam, "RichTextBox1");
         QVERIFY(text->toPlainText().contains(QStringLiteral("Question 1.1")));
+        QApplication::setActiveWindow(&exam);
         QTest::keyClick(text, Qt::Key_C);
         QTest::keyClick(text, Qt::Key_A);
         QCOMPARE(Control<QLabel>(&exam, "Label1_0")->text(), QStringLiteral("Your Answer:  A"));
         QVERIFY(!Control<QPushButton>(&exam, "Command1_0")->isEnabled());
-        click(&exam, "Command1_5");
+        QTRY_COMPARE(QApplication::focusWidget(), Control<QWidget>(&exam, "Command1_5"));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); // Enter presses Next
         QVERIFY(QFile::exists(QString::fromLatin1(JournalFile))); // the committed answer
         QCOMPARE(rows(&exam, "List1_0"), QStringList{QStringLiteral("   1  A")});
         QCOMPARE(Control<QWidget>(&exam, "Frame1")->property("title").toString(),
@@ -105,6 +104,25 @@ private Q_SLOTS:
         QCOMPARE(remaining->currentRow(), 0);
         QTest::keyClick(remaining, Qt::Key_A);
         QCOMPARE(f->state.ExamAnswers[2], int16_t(1));
+
+        // The clock stands still under the box: an hour there neither expires the exam nor
+        // counts, and the clock runs on after Cancel.
+        auto* clockLabel = Control<QLabel>(&exam, "Label1_1");
+        const QString stoodAt = clockLabel->text();
+        auto* timer = exam.findChild<QTimer*>(QStringLiteral("Timer1"));
+        bool ticking = true;
+        f->dialogs.whileOpen([&] {
+            ticking = timer->isActive();
+            f->clock.advanceSeconds(3600);
+            QTest::qWait(250);
+        });
+        f->dialogs.answer(MessageAnswer::Cancel);
+        click(&exam, "Command1_8");
+        f->dialogs.whileOpen({});
+        QVERIFY(!ticking);
+        QVERIFY(timer->isActive());
+        QTest::qWait(250);
+        QCOMPARE(clockLabel->text(), stoodAt);
 
         f->clock.advanceSeconds(60);
         f->dialogs.answer(MessageAnswer::Ok);
@@ -191,7 +209,7 @@ private Q_SLOTS:
         Results results(f->context);
         results.show();
         QVERIFY(Control<RichTextView>(&results, "RichTextBox1")->rightMargin() > 0); // Shape2
-        expectAccessibleNames(&results);
+        QCOMPARE(ControlsWithoutNames(results), QStringList());
         QCOMPARE(Control<QLabel>(&results, "Label1_3")->text(),
                  QStringLiteral("Correct          1   33.3%"));
         QCOMPARE(rows(&results, "List1"),

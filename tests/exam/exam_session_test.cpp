@@ -12,12 +12,13 @@ namespace {
 class SlowDialogs final : public Dialogs {
 public:
     SlowDialogs(ScriptedDialogs& script, FakeClock& clock) : m_script(script), m_clock(clock) {}
-    MessageAnswer message(const QString& text, const QString& title, MessageIcon icon,
-                          MessageButtons buttons) override {
+    MessageAnswer showMessage(const QString& text, const QString& title, MessageIcon icon,
+                              MessageButtons buttons) override {
         m_clock.advanceSeconds(30);
         return m_script.message(text, title, icon, buttons);
     }
-    QString input(const QString& prompt, const QString& title, const QString& initial) override {
+    QString showInput(const QString& prompt, const QString& title,
+                      const QString& initial) override {
         return m_script.input(prompt, title, initial);
     }
 

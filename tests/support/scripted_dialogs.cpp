@@ -19,9 +19,11 @@ MessageAnswer unscriptedAnswer(MessageButtons buttons) {
 
 } // namespace
 
-MessageAnswer ScriptedDialogs::message(const QString& text, const QString& title, MessageIcon icon,
-                                       MessageButtons buttons) {
+MessageAnswer ScriptedDialogs::showMessage(const QString& text, const QString& title,
+                                           MessageIcon icon, MessageButtons buttons) {
     m_messages.push_back({text, title, icon, buttons});
+    if (m_whileOpen)
+        m_whileOpen();
     if (m_answers.empty()) {
         ++m_unscripted;
         return unscriptedAnswer(buttons);
@@ -31,8 +33,10 @@ MessageAnswer ScriptedDialogs::message(const QString& text, const QString& title
     return answer;
 }
 
-QString ScriptedDialogs::input(const QString& prompt, const QString& title, const QString&) {
+QString ScriptedDialogs::showInput(const QString& prompt, const QString& title, const QString&) {
     m_inputs.push_back({prompt, title});
+    if (m_whileOpen)
+        m_whileOpen();
     if (m_typed.empty()) {
         ++m_unscripted;
         return {};

@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include <deque>
+#include <functional>
 #include <vector>
 
 namespace tessera {
@@ -30,9 +31,8 @@ public:
     // Texts typed into the coming input boxes, in order; an empty text is a cancel.
     void type(const QString& text) { m_typed.push_back(text); }
 
-    MessageAnswer message(const QString& text, const QString& title, MessageIcon icon,
-                          MessageButtons buttons) override;
-    QString input(const QString& prompt, const QString& title, const QString& initial) override;
+    // Runs while each coming box stands open, as time passing or a timer looking in.
+    void whileOpen(std::function<void()> act) { m_whileOpen = std::move(act); }
 
     const std::vector<ShownMessage>& messages() const { return m_messages; }
     const std::vector<ShownInput>& inputs() const { return m_inputs; }
@@ -41,7 +41,13 @@ public:
     // a question (Cancel, or Yes to a Yes/No question, and an empty input) so nothing loops.
     int unscripted() const { return m_unscripted; }
 
+protected:
+    MessageAnswer showMessage(const QString& text, const QString& title, MessageIcon icon,
+                              MessageButtons buttons) override;
+    QString showInput(const QString& prompt, const QString& title, const QString& initial) override;
+
 private:
+    std::function<void()> m_whileOpen;
     std::deque<MessageAnswer> m_answers;
     std::deque<QString> m_typed;
     std::vector<ShownMessage> m_messages;

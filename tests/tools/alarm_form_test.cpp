@@ -66,6 +66,8 @@ private Q_SLOTS:
     }
 
     void setAlarmPromptsUntilAUsableTime() {
+        std::vector<bool> ticking;
+        f->dialogs.whileOpen([&] { ticking.push_back(form->Timer1->isActive()); });
         for (const char* typed : {"25:00", "2:00", "14:00", "4:00 PM"})
             f->dialogs.type(QString::fromLatin1(typed));
         form->Command1[0]->click();
@@ -83,6 +85,8 @@ private Q_SLOTS:
         QCOMPARE(shown[0].icon, MessageIcon::Question);
         QCOMPARE(shown[1].text, goneBy);
         QCOMPARE(shown[2].text, goneBy);
+        QCOMPARE(ticking, std::vector<bool>(7, false)); // every box held the clock back
+        QVERIFY(form->Timer1->isActive());
         QCOMPARE(form->alarmTime(), std::optional<int>(16 * 3600));
         QCOMPARE(form->Label1->text(), QStringLiteral("4:00:00 PM"));
         QVERIFY(!form->Image1->isHidden());
