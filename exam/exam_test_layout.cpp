@@ -4,8 +4,8 @@
 #include "exam/exam_test.h"
 
 #include "platform/control_names.h"
-#include "platform/fixed_pitch_font.h"
 #include "platform/dialogs.h"
+#include "platform/fixed_pitch_font.h"
 #include "platform/rich_text_view.h"
 #include "platform/text_frame.h"
 

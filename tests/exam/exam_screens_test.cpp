@@ -95,7 +95,7 @@ private Q_SLOTS:
         QVERIFY(!Control<QPushButton>(&exam, "Command1_0")->isEnabled());
         QTRY_COMPARE(QApplication::focusWidget(), Control<QWidget>(&exam, "Command1_5"));
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); // Enter presses Next
-        QVERIFY(QFile::exists(QString::fromLatin1(JournalFile))); // the committed answer
+        QVERIFY(QFile::exists(QString::fromLatin1(JournalFile)));     // the committed answer
         QCOMPARE(rows(&exam, "List1_0"), QStringList{QStringLiteral("   1  A")});
         QCOMPARE(Control<QWidget>(&exam, "Frame1")->property("title").toString(),
                  QStringLiteral(" 1 Answered           2 Remaining"));
