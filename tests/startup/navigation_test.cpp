@@ -9,91 +9,91 @@ using namespace tessera;
 
 namespace {
 
-class NavigationTest : public testing::Test {
-protected:
-    NavigationTest() { FillCatalogue(state); }
-    void setTopicCounts(int16_t count) {
-        for (int t = 1; t <= TopicCount; ++t)
-            state.TakeCounts[t] = count;
-    }
-    SessionState state;
+struct NavigationCase {
+    const char* takes;  // the counters of topics 1 to 9, then of Exams I to III
+    int suspendedTopic; // with its test type; 0: no test suspended
+    int testType;
+    int examType; // of a suspended exam; 0: none
+    CaptionState review;
+    CaptionState exam;
+    const char* topicFive; // the Financing button's caption; nullptr: the buttons are left
+    bool reviewCard;
+    bool examCard;
 };
 
-TEST_F(NavigationTest, FirstRunOffersEveryTopicForItsFirstDrill) {
-    const NavigationView view = ComputeNavigation(state);
-    EXPECT_EQ(view.reviewOption, (CaptionState{"Topic &Review Test", true}));
-    EXPECT_EQ(view.examOption, (CaptionState{"&Screening Exam", true}));
-    ASSERT_TRUE(view.topics);
-    EXPECT_EQ((*view.topics)[0], (CaptionState{"Definitions - 1st Drill", true}));
-    EXPECT_EQ((*view.topics)[8],
-              (CaptionState{"Brokerage: Responsibilities and Functions of Salespersons - 1st Drill",
-                            true}));
-    EXPECT_TRUE(view.reviewCardEnabled);
-    EXPECT_TRUE(view.examCardEnabled);
-}
+const CaptionState Review{"Topic &Review Test", true};
+const CaptionState Exam{"&Screening Exam", true};
 
-TEST_F(NavigationTest, EachDrillCountHasItsSuffixAndTheThirdClosesTheTopic) {
-    const std::vector<std::pair<int16_t, CaptionState>> cases = {
-        {0, {"Financing Real Estate - 1st Drill", true}},
-        {1, {"Financing Real Estate - 2nd Drill", true}},
-        {2, {"Financing Real Estate - Last Drill", true}},
-        {3, {"Financing Real Estate - Finished", false}},
-        {7, {"Financing Real Estate - Finished", false}},
+TEST(Navigation, CaptionsAndEnablingFollowTheCountersAndWhatIsSuspended) {
+    const NavigationCase cases[] = {
+        {"000000000000", 0, 0, 0, Review, Exam, "Financing Real Estate - 1st Drill", true, true},
+        {"000010000000", 0, 0, 0, Review, Exam, "Financing Real Estate - 2nd Drill", true, true},
+        {"000020000000", 0, 0, 0, Review, Exam, "Financing Real Estate - Last Drill", true, true},
+        {"000030000000", 0, 0, 0, Review, Exam, "Financing Real Estate - Finished", true, true},
+        {"000070000000", 0, 0, 0, Review, Exam, "Financing Real Estate - Finished", true, true},
+        {"333333332332", 0, 0, 0, Review, Exam, "Financing Real Estate - Finished", true, true},
+        {"333333333332",
+         0,
+         0,
+         0,
+         {"All Topics Reviewed Three Times", false},
+         Exam,
+         nullptr,
+         true,
+         true},
+        {"000000000333",
+         0,
+         0,
+         0,
+         Review,
+         {"All Exams Taken Three Times", false},
+         "Financing Real Estate - 1st Drill",
+         true,
+         true},
+        // A suspended test outranks the finished course, and locks its report card.
+        {"333333333000",
+         3,
+         1,
+         5,
+         {"Resume Topic 3 &Review, All Items", true},
+         {"Resume &Screening Exam, Retake Missed Items", true},
+         nullptr,
+         false,
+         false},
+        {"000000000000",
+         0,
+         0,
+         3,
+         Review,
+         {"Resume &Screening Exam, Custom Built", true},
+         "Financing Real Estate - 1st Drill",
+         true,
+         false},
     };
-    for (const auto& [count, expected] : cases) {
-        state.TakeCounts[5] = count;
+    for (const NavigationCase& c : cases) {
+        SessionState state;
+        FillCatalogue(state);
+        for (int counter = 1; counter <= 12; ++counter)
+            state.TakeCounts[counter] = static_cast<int16_t>(c.takes[counter - 1] - '0');
+        state.TestPosition = c.suspendedTopic == 0 ? 0 : 12;
+        state.CurrentTopic = static_cast<int16_t>(c.suspendedTopic == 0 ? 1 : c.suspendedTopic);
+        state.TestType = static_cast<int16_t>(c.testType);
+        state.ExamPosition = c.examType == 0 ? 0 : 40;
+        state.ExamType = static_cast<int16_t>(c.examType);
+
         const NavigationView view = ComputeNavigation(state);
-        ASSERT_TRUE(view.topics);
-        EXPECT_EQ((*view.topics)[4], expected) << "take count " << count;
-        EXPECT_TRUE((*view.topics)[3].enabled) << "the other topics stay available";
+        SCOPED_TRACE(c.takes);
+        EXPECT_EQ(view.reviewOption, c.review);
+        EXPECT_EQ(view.examOption, c.exam);
+        EXPECT_EQ(view.reviewCardEnabled, c.reviewCard);
+        EXPECT_EQ(view.examCardEnabled, c.examCard);
+        ASSERT_EQ(view.topics.has_value(), c.topicFive != nullptr);
+        if (!view.topics)
+            continue;
+        EXPECT_EQ((*view.topics)[4].caption, c.topicFive);
+        for (int topic = 1; topic <= TopicCount; ++topic)
+            EXPECT_EQ((*view.topics)[topic - 1].enabled, state.TakeCounts[topic] < 3) << topic;
     }
-}
-
-TEST_F(NavigationTest, AllTopicsDrilledThreeTimesClosesReviews) {
-    setTopicCounts(3);
-    const NavigationView view = ComputeNavigation(state);
-    EXPECT_EQ(view.reviewOption, (CaptionState{"All Topics Reviewed Three Times", false}));
-    EXPECT_FALSE(view.topics);
-    EXPECT_TRUE(view.reviewCardEnabled);
-
-    state.TakeCounts[9] = 2; // one short of the full 27
-    EXPECT_TRUE(ComputeNavigation(state).reviewOption.enabled);
-}
-
-TEST_F(NavigationTest, AllExamsTakenThreeTimesClosesExams) {
-    state.TakeCounts[10] = 3;
-    state.TakeCounts[11] = 3;
-    state.TakeCounts[12] = 2;
-    EXPECT_EQ(ComputeNavigation(state).examOption, (CaptionState{"&Screening Exam", true}));
-    state.TakeCounts[12] = 3;
-    EXPECT_EQ(ComputeNavigation(state).examOption,
-              (CaptionState{"All Exams Taken Three Times", false}));
-}
-
-TEST_F(NavigationTest, SuspendedTestAndExamOfferToResumeAndLockTheirReportCards) {
-    state.TestPosition = 12;
-    state.CurrentTopic = 3;
-    state.TestType = 1;
-    state.ExamPosition = 40;
-    state.ExamType = 5;
-    setTopicCounts(3); // a suspended test outranks the finished course
-
-    const NavigationView view = ComputeNavigation(state);
-    EXPECT_EQ(view.reviewOption, (CaptionState{"Resume Topic 3 &Review, All Items", true}));
-    EXPECT_EQ(view.examOption, (CaptionState{"Resume &Screening Exam, Retake Missed Items", true}));
-    EXPECT_FALSE(view.topics);
-    EXPECT_FALSE(view.reviewCardEnabled);
-    EXPECT_FALSE(view.examCardEnabled);
-}
-
-TEST_F(NavigationTest, OnlyTheSuspendedKindLocksItsCard) {
-    state.ExamPosition = 1;
-    state.ExamType = 3;
-    const NavigationView view = ComputeNavigation(state);
-    EXPECT_TRUE(view.reviewCardEnabled);
-    EXPECT_FALSE(view.examCardEnabled);
-    EXPECT_EQ(view.examOption.caption, "Resume &Screening Exam, Custom Built");
-    EXPECT_EQ(view.reviewOption.caption, "Topic &Review Test");
 }
 
 } // namespace
