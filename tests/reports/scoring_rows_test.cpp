@@ -74,18 +74,6 @@ TEST(ScoringRows, TotalsStandUnderTheColumnsAndRoundTheCorrectCountRowByRow) {
                   "  01:30:30");
 }
 
-TEST(ScoringRows, TopicsTextNamesTheFlaggedTopicsAfterABlankEach) {
-    ScoringRow row{CardExam(12, 3, "01-05-2027", 0.5F, {1}), 1};
-    EXPECT_EQ(TopicsText(row), "");
-    EXPECT_EQ(TopicsCoveredText(&row), "Topics Covered: ");
-    row.record.Topics[2] = 1;
-    row.record.Topics[7] = 1;
-    EXPECT_EQ(TopicsCoveredText(&row), "Topics Covered:  2, 7");
-    row.record.Topics = {0, 1, 0, 1, 0, 0, 0, 0, 0, 2};
-    EXPECT_EQ(TopicsText(row), " 1, 3, 9");
-    EXPECT_EQ(TopicsCoveredText(nullptr), "Topics Covered: ");
-}
-
 TEST(ScoringRows, LoadingKeepsExamsOnlyWithinThe300Positions) {
     ExamRecord big = CardExam(11, 2, "03-03-2027", 0.5F, {1, 1, 1});
     big.ItemCount = 400;

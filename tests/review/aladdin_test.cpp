@@ -35,37 +35,32 @@ private Q_SLOTS:
         QVERIFY(!dialog.Option1[1]->isEnabled());
         for (QRadioButton* option : dialog.Option1)
             QVERIFY(!option->isChecked());
-        QCOMPARE(dialog.Option1[2]->text(), QStringLiteral("Show Expert Advise"));
     }
 
-    void okSpendsTheSelectedWishOnly() {
+    void closing_data() {
+        QTest::addColumn<int>("choice"); // the option chosen, -1 for none
+        QTest::addColumn<int>("button"); // 0 OK, 1 Cancel, -1 the close box by Escape
+        QTest::addColumn<int>("spent");  // the wish spent and made active, 0 for none
+        QTest::newRow("OK spends the chosen wish") << 2 << 0 << 3;
+        QTest::newRow("OK without a choice") << -1 << 0 << 0;
+        QTest::newRow("Cancel") << 0 << 1 << 0;
+        QTest::newRow("close box") << 0 << -1 << 0;
+    }
+    void closing() {
+        QFETCH(int, choice);
+        QFETCH(int, button);
+        QFETCH(int, spent);
         Aladdin dialog(state, screens, 4, nullptr);
-        QTest::mouseClick(dialog.Option1[2], Qt::LeftButton);
-        QTest::mouseClick(dialog.Command1[0], Qt::LeftButton);
-        QCOMPARE(state.ActiveWish, 3);
-        QCOMPARE(state.WishesLeft, (std::array<int16_t, 4>{0, 2, 0, 0}));
-        QCOMPARE(dialog.result(), int(QDialog::Accepted));
-    }
-
-    void cancelCloseBoxAndEmptyOkSpendNothing() {
-        {
-            Aladdin dialog(state, screens, 4, nullptr);
-            QTest::mouseClick(dialog.Command1[0], Qt::LeftButton);
-        }
-        {
-            Aladdin dialog(state, screens, 4, nullptr);
-            dialog.Option1[0]->setChecked(true);
-            QTest::mouseClick(dialog.Command1[1], Qt::LeftButton);
-        }
-        {
-            Aladdin dialog(state, screens, 4, nullptr);
-            dialog.show();
-            dialog.Option1[0]->setChecked(true);
+        dialog.show();
+        if (choice >= 0)
+            QTest::mouseClick(dialog.Option1[static_cast<size_t>(choice)], Qt::LeftButton);
+        if (button >= 0)
+            QTest::mouseClick(dialog.Command1[static_cast<size_t>(button)], Qt::LeftButton);
+        else
             QTest::keyClick(&dialog, Qt::Key_Escape);
-            QVERIFY(!dialog.isVisible());
-        }
-        QCOMPARE(state.ActiveWish, 0);
-        QCOMPARE(state.WishesLeft, (std::array<int16_t, 4>{0, 2, 0, 1}));
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(state.ActiveWish, spent);
+        QCOMPARE(state.WishesLeft, (std::array<int16_t, 4>{0, 2, 0, int16_t(spent == 3 ? 0 : 1)}));
     }
 
     void helpOpensTopicSixteenModally() {

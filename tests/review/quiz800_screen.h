@@ -4,7 +4,7 @@
 #include "platform/rich_text_view.h"
 #include "review/aladdin.h"
 #include "review/quiz800.h"
-#include "review_course.h"
+#include "tests/support/screen_fixture.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -16,9 +16,15 @@
 
 namespace tessera {
 
+// Topic 1 holds six items, enough for one wish of each kind; topic 6 holds eight.
+inline void FillReviewCourse(SessionState& state) {
+    FillSmallCourse(state, {6, 3, 2, 2, 2, 8, 2, 2, 2});
+    state.IncludeProgressReport = true;
+}
+
 class Quiz800Driver {
 public:
-    explicit Quiz800Driver(ReviewScreenFixture& fixture)
+    explicit Quiz800Driver(ScreenFixture& fixture)
         : m_fixture(fixture), m_screen(std::make_unique<Quiz800>(fixture.context)) {}
 
     Quiz800& screen() { return *m_screen; }
@@ -35,10 +41,21 @@ public:
         return c.red() | c.green() << 8 | c.blue() << 16;
     }
     QPushButton* button(int index) const { return m_screen->Command1[static_cast<size_t>(index)]; }
+    // Which of the buttons given are enabled.
+    QList<bool> enabled(std::initializer_list<int> indexes) const {
+        QList<bool> on;
+        for (int i : indexes)
+            on << button(i)->isEnabled();
+        return on;
+    }
     QString documentText() const { return m_screen->RichTextBox1->text(); }
 
-    // Index of the right answer of the item on screen, and of its wrong answers in order.
-    int right() const { return RightLetterOf(state().TestItems[state().TestPosition]) - 'A'; }
+    // Index of the right answer of the item on screen, read from the key letter after the
+    // item's "\par " and five digits, and of its wrong answers in order.
+    int right() const {
+        const SessionState& s = m_fixture.state;
+        return s.content.ReviewItems[static_cast<size_t>(s.TestItems[s.TestPosition])][10] - 'A';
+    }
     int wrong(int k) const { return (right() + 1 + k) % 4; }
 
     void click(int index) { QTest::mouseClick(button(index), Qt::LeftButton); }
@@ -70,15 +87,13 @@ public:
     void close() { m_screen->close(); }
 
 private:
-    const SessionState& state() const { return m_fixture.state; }
-
-    ReviewScreenFixture& m_fixture;
+    ScreenFixture& m_fixture;
     std::unique_ptr<Quiz800> m_screen;
     std::array<bool, 3> m_offered{};
 };
 
 // Opens the review test screen on a topic, as the topic button does.
-inline std::unique_ptr<Quiz800Driver> OpenQuiz(ReviewScreenFixture& fixture, int topic) {
+inline std::unique_ptr<Quiz800Driver> OpenQuiz(ScreenFixture& fixture, int topic) {
     fixture.state.CurrentTopic = static_cast<int16_t>(topic);
     return std::make_unique<Quiz800Driver>(fixture);
 }

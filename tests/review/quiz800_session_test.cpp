@@ -17,9 +17,20 @@ class Quiz800SessionTest : public QObject {
     Q_OBJECT
 
 private:
-    std::unique_ptr<ReviewScreenFixture> f;
+    std::unique_ptr<ScreenFixture> f;
 
     std::unique_ptr<Quiz800Driver> open(int topic) { return OpenQuiz(*f, topic); }
+
+    // A later run: a fresh session that restores what the progress file holds.
+    void startNewRun() {
+        f->state = SessionState{};
+        FillReviewCourse(f->state);
+        f->state.PassingGrade = 70;
+        const ProgressHeader header = ReadProgressHeader();
+        for (int i = 1; i <= TakeCounterCount; ++i)
+            f->state.TakeCounts[i] = header.TakeCounts[i];
+        RestoreSuspended(f->state);
+    }
 
     // Answers positions up to the one given right at the first try, stopping on it revealed.
     static void answerThrough(Quiz800Driver& quiz, int last) {
@@ -48,9 +59,10 @@ private:
 
 private Q_SLOTS:
     void init() {
-        f = std::make_unique<ReviewScreenFixture>();
-        f->startFresh();
+        f = std::make_unique<ScreenFixture>();
+        FillReviewCourse(f->state);
     }
+    void cleanup() { f.reset(); }
 
     void cleanRunEndsWithThePassedMessageAndALogEntry() {
         auto quiz = open(2);
@@ -91,9 +103,7 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(QString::fromLatin1(ProgressFile)));
         QCOMPARE(quiz->button(6)->text(), QStringLiteral("&Done"));
         f->dialogs.answer(MessageAnswer::Cancel);
-        quiz->next();
-        // pressing Done again asks again
-
+        quiz->next(); // pressing Done again asks again
         QCOMPARE(f->dialogs.messages().size(), size_t{2});
     }
 
@@ -172,7 +182,7 @@ private Q_SLOTS:
         QCOMPARE(ReadReviewTestRecords().front().Furthest, 5);
 
         quiz.reset();
-        f->startNewRun();
+        startNewRun();
         QCOMPARE(f->state.TestPosition, 5);
         Quiz800Driver resumed(*f);
         QCOMPARE(resumed.label("Label2"),
@@ -205,9 +215,7 @@ private Q_SLOTS:
         Quiz800Driver resumed(*f); // the same run: the session still holds the test
         QCOMPARE(f->state.TestPosition, 5);
         resumed.next();
-        resumed.answerRight();
-        // the wrong try still counts
-
+        resumed.answerRight(); // the wrong try still counts
         QCOMPARE(f->state.TestTally[1], 5);
         QCOMPARE(resumed.label("Label4"), QStringLiteral("Wrong: 1"));
     }
@@ -237,7 +245,7 @@ private Q_SLOTS:
         QCOMPARE(record.Position, 1);
         QCOMPARE(record.WishesLeft[1], uint8_t{1});
 
-        f->startNewRun();
+        startNewRun();
         Quiz800Driver resumed(*f);
         QCOMPARE(resumed.label("Label2"), QStringLiteral("Retake of Missed Items\nItem 1 of 100"));
         QVERIFY(!resumed.button(6)->isEnabled());
