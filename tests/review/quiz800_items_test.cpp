@@ -9,6 +9,8 @@
 
 #include <QProgressBar>
 
+using namespace Qt::StringLiterals;
+
 namespace tessera {
 
 class Quiz800ItemsTest : public QObject {
@@ -82,19 +84,68 @@ private Q_SLOTS:
                     ->isVisibleTo(&quiz->screen()));
     }
 
-    void missedOnceThenRightByKeys() {
+    // Topic 1's first item is keyed A. Steps: a capital clicks that answer's button, a small
+    // letter is typed as a key, F takes the free guess; an empty label is not looked at.
+    void answering_data() {
+        QTest::addColumn<QString>("steps");
+        QTest::addColumn<QStringList>("labels");
+        QTest::addColumn<QList<int>>("tally"); // right, wrong, tries, wild guesses
+        QTest::addColumn<int>("misses");
+        QTest::newRow("right at the first click")
+            << u"A"_s << QStringList{u"<A> is the best choice."_s} << QList<int>{1, 0, 1, 0} << 0;
+        QTest::newRow("right key at the first try")
+            << u"a"_s << QStringList{u"<A> is the best choice.  (Answer is A)"_s}
+            << QList<int>{1, 0, 1, 0} << 0;
+        // The same wrong key again finds its button disabled; a revealed item takes no answer.
+        QTest::newRow("a wrong key twice, then right, then any key")
+            << u"bbac"_s
+            << QStringList{u"<B> is not the best choice. Try Again..."_s, u""_s,
+                           u"<A> is the best choice."_s, u"<A> is the best choice."_s}
+            << QList<int>{0, 1, 2, 0} << 1;
+        QTest::newRow("three misses are one wild guess")
+            << u"BCDA"_s
+            << QStringList{u""_s, u""_s, u"<D> is not the best choice either. Try Again..."_s,
+                           u""_s}
+            << QList<int>{0, 1, 4, 1} << 3;
+        QTest::newRow("a free guess forgives one miss")
+            << u"FBCA"_s
+            << QStringList{u"Take a Free Guess!"_s, u"<B> Try Again..."_s, u""_s, u""_s}
+            << QList<int>{0, 1, 3, 0} << 1;
+    }
+    void answering() {
+        QFETCH(QString, steps);
+        QFETCH(QStringList, labels);
+        QFETCH(QList<int>, tally);
+        QFETCH(int, misses);
+        auto quiz = open(1);
+        for (int k = 0; k < steps.size(); ++k) {
+            const char step = steps.at(k).toLatin1();
+            if (step == 'F')
+                quiz->wish(2);
+            else if (step >= 'a')
+                quiz->type(step);
+            else
+                quiz->click(step - 'A');
+            if (!labels.at(k).isEmpty())
+                QCOMPARE(quiz->label("Label2"), labels.at(k));
+        }
+        const std::array<int16_t, 5>& kept = f->state.TestTally;
+        QCOMPARE((QList<int>{kept[1], kept[2], kept[3], kept[4]}), tally);
+        QCOMPARE(int(f->state.TestMisses[1]), misses);
+        QCOMPARE(quiz->label("Label4"), QStringLiteral("Wrong: %1").arg(tally[1]));
+        QCOMPARE(quiz->label("Label11"), QStringLiteral("Wild Guesses: %1").arg(tally[3]));
+        QVERIFY2(f->sound.tones().empty(), "no tone with the sound off");
+    }
+
+    void aMissShowsInRedWithATone() {
         f->state.SoundOn = true;
         auto quiz = open(1);
-        const int wrong = quiz->wrong(0);
-        quiz->type(static_cast<char>('a' + wrong));
-        QCOMPARE(
-            quiz->label("Label2"),
-            QStringLiteral("<%1> is not the best choice. Try Again...").arg(QChar('A' + wrong)));
+        quiz->type('b');
         QCOMPARE(quiz->labelColour("Label2"), int(WrongColour));
         // "<B>" must show as written, not be taken for markup.
         QCOMPARE(quiz->screen().findChild<QLabel*>(QStringLiteral("Label2"))->textFormat(),
                  Qt::PlainText);
-        QVERIFY(!quiz->button(wrong)->isEnabled());
+        QVERIFY(!quiz->button(1)->isEnabled());
         QCOMPARE(f->sound.tones(), (std::vector<Tone>{{440, 200}}));
         QCOMPARE(quiz->label("Label6"), QStringLiteral("0.0%"));
         QCOMPARE(quiz->labelColour("Label6"), int(WrongColour));
@@ -102,59 +153,6 @@ private Q_SLOTS:
                      .findChild<QLabel*>(QStringLiteral("HandShake"))
                      ->isVisibleTo(&quiz->screen()));
         QCOMPARE(quiz->screen().findChild<QFrame*>(QStringLiteral("Shape1"))->height(), 0);
-
-        // The same wrong key again is ignored: its button is disabled.
-        quiz->type(static_cast<char>('a' + wrong));
-        QCOMPARE(f->state.TestTally[3], 1);
-
-        quiz->type(static_cast<char>('A' + quiz->right()));
-        QCOMPARE(quiz->label("Label2"),
-                 QStringLiteral("<%1> is the best choice.").arg(QChar('A' + quiz->right())));
-        QCOMPARE(f->state.TestTally, (std::array<int16_t, 5>{0, 0, 1, 2, 0}));
-        QCOMPARE(quiz->label("Label4"), QStringLiteral("Wrong: 1"));
-        // A revealed item takes no further answer.
-        quiz->type(static_cast<char>('a' + quiz->wrong(1)));
-        QCOMPARE(f->state.TestTally[3], 2);
-    }
-
-    void rightKeyAtTheFirstTryNamesTheLetter() {
-        auto quiz = open(1);
-        const QChar letter('A' + quiz->right());
-        QTest::keyClick(quiz->button(0), letter.toLower().toLatin1());
-        QCOMPARE(quiz->label("Label2"),
-                 QStringLiteral("<%1> is the best choice.  (Answer is %1)").arg(letter));
-        QCOMPARE(f->state.TestTally[1], 1);
-    }
-
-    void missedThreeTimesIsOneWildGuess() {
-        auto quiz = open(1);
-        for (int k = 0; k < 3; ++k)
-            quiz->click(quiz->wrong(k));
-        QCOMPARE(quiz->label("Label2"),
-                 QStringLiteral("<%1> is not the best choice either. Try Again...")
-                     .arg(QChar('A' + quiz->wrong(2))));
-        quiz->answerRight();
-        QCOMPARE(f->state.TestMisses[1], 3);
-        QCOMPARE(f->state.TestTally, (std::array<int16_t, 5>{0, 0, 1, 4, 1}));
-        QCOMPARE(quiz->label("Label11"), QStringLiteral("Wild Guesses: 1"));
-        QVERIFY2(f->sound.tones().empty(), "no tone with the sound off");
-    }
-
-    void freeGuessForgivesOneMiss() {
-        auto quiz = open(1);
-        quiz->wish(2);
-        QCOMPARE(quiz->label("Label2"), QStringLiteral("Take a Free Guess!"));
-        QCOMPARE(f->state.WishesLeft[2], 0);
-        QVERIFY(quiz->button(5)->isEnabled());
-        const int wrong = quiz->wrong(0);
-        quiz->click(wrong);
-        QCOMPARE(quiz->label("Label2"),
-                 QStringLiteral("<%1> Try Again...").arg(QChar('A' + wrong)));
-        QVERIFY(!quiz->button(wrong)->isEnabled());
-        quiz->click(quiz->wrong(1)); // only one miss is forgiven
-        QCOMPARE(f->state.TestMisses[1], 1);
-        quiz->answerRight();
-        QCOMPARE(f->state.TestTally, (std::array<int16_t, 5>{0, 0, 1, 3, 0}));
     }
 
     void coinTossAfterAWrongTry() {
@@ -211,31 +209,34 @@ private Q_SLOTS:
         QVERIFY(quiz->button(6)->isEnabled());
     }
 
-    void clocksFollowTheItemWhileTheTimerIsActive() {
-        f->state.TimerActive = true;
+    void clocks_data() {
+        QTest::addColumn<bool>("active");
+        // The item and elapsed clocks after 65 seconds, then the elapsed clock an hour into the
+        // next item.
+        QTest::addColumn<QStringList>("shown");
+        QTest::newRow("timer on") << true
+                                  << QStringList{u"Item Time: 0:01:05"_s,
+                                                 u"Elapsed Time: 0:01:05"_s,
+                                                 u"Elapsed Time: 1:01:05"_s};
+        QTest::newRow("timer off")
+            << false << QStringList{u"Item Time:"_s, u"Elapsed Time:"_s, u"Elapsed Time:"_s};
+    }
+    void clocks() {
+        QFETCH(bool, active);
+        QFETCH(QStringList, shown);
+        f->state.TimerActive = active;
         auto quiz = open(1);
+        QCOMPARE(quiz->screen().Timer1->isActive(), active);
         f->clock.advanceSeconds(65);
         quiz->screen().Timer1_Timer();
-        QCOMPARE(quiz->label("Label8"), QStringLiteral("Item Time: 0:01:05"));
-        QCOMPARE(quiz->label("Label7"), QStringLiteral("Elapsed Time: 0:01:05"));
-        quiz->answerRight();
+        QCOMPARE((QStringList{quiz->label("Label8"), quiz->label("Label7")}), shown.mid(0, 2));
+        quiz->answerRight(); // the time counts with or without the clocks
         QVERIFY(!quiz->screen().Timer1->isActive());
         QCOMPARE(qRound(f->state.TestElapsed * 86400), 65);
         quiz->next();
         f->clock.advanceSeconds(3600);
         quiz->screen().Timer1_Timer();
-        QCOMPARE(quiz->label("Label7"), QStringLiteral("Elapsed Time: 1:01:05"));
-    }
-
-    void clocksKeepTheirCaptionsWithTheTimerOff() {
-        auto quiz = open(1);
-        QVERIFY(!quiz->screen().Timer1->isActive());
-        f->clock.advanceSeconds(30);
-        quiz->screen().Timer1_Timer();
-        QCOMPARE(quiz->label("Label8"), QStringLiteral("Item Time:"));
-        QCOMPARE(quiz->label("Label7"), QStringLiteral("Elapsed Time:"));
-        quiz->answerRight(); // time still counts with no clock
-        QCOMPARE(qRound(f->state.TestElapsed * 86400), 30);
+        QCOMPARE(quiz->label("Label7"), shown[2]);
     }
 
     void threeWishesUsedDisableAladdinForTheRestOfTheTest() {
