@@ -1,10 +1,10 @@
 #include "core/content_file.h"
 #include "core/content_format.h"
 #include "core/item_text.h"
+#include "tests/support/study_folder.h"
 
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <random>
 
 using namespace tessera;
@@ -117,11 +117,11 @@ TEST(ContentFile, ItemsEndAtTheSecondCharacterBeforeTheNextHeader) {
 }
 
 TEST(ContentFile, LoadContentReadsTheFileLessItsLastByte) {
+    StudyFolder folder;
     SessionState state;
     FillCatalogue(state);
-    std::remove("Tessera");
     EXPECT_FALSE(LoadContent(state));
-    std::ofstream("Tessera", std::ios::binary) << SmallCourse();
+    folder.write("Tessera", SmallCourse());
     ASSERT_TRUE(LoadContent(state));
     EXPECT_EQ(state.content.HelpTexts[17], "Help 17\r\n\\par }\r");
     EXPECT_EQ(state.content.ItemCounts[9][1], 3);

@@ -3,6 +3,7 @@
 #include "course/compiler/content_check.h"
 #include "course/compiler/content_writer.h"
 #include "course/compiler/rtf_text.h"
+#include "tests/support/study_folder.h"
 
 #include <gtest/gtest.h>
 
@@ -180,9 +181,8 @@ std::pair<int, std::string> RunTool(const std::string& arguments) {
 } // namespace
 
 TEST(CourseCompiler, ReadsAFolderAndBuildsAFileThatChecks) {
+    StudyFolder study;
     const std::filesystem::path folder = "course-source";
-    std::filesystem::remove_all(folder);
-    std::filesystem::remove("Tessera");
     Write(folder / "prologue.rtf", "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\\f0 !\n");
     Write(folder / "topics/2-second.txt", TopicSource);
     std::string figure = TopicSource;

@@ -1,37 +1,25 @@
 #include "core/progress_file.h"
+#include "tests/support/study_folder.h"
 
 #include <gtest/gtest.h>
-
-#include <cstdio>
-#include <fstream>
-#include <iterator>
 
 using namespace tessera;
 
 namespace {
 
-using Bytes = std::vector<uint8_t>;
-
-Bytes ReadFile(const char* name) {
-    std::ifstream in(name, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+// A progress file of the given records, the header first.
+std::string File(std::initializer_list<RecordBytes> records) {
+    std::string file;
+    for (const RecordBytes& record : records)
+        file.append(record.begin(), record.end());
+    return file;
 }
 
-void WriteFile(const char* name, const Bytes& bytes) {
-    std::ofstream out(name, std::ios::binary | std::ios::trunc);
-    out.write(reinterpret_cast<const char*>(bytes.data()),
-              static_cast<std::streamsize>(bytes.size()));
+std::string Record(const std::string& file, int n) {
+    return file.substr(static_cast<size_t>((n - 1) * RecordSize), RecordSize);
 }
 
-void Append(Bytes& file, const RecordBytes& record) {
-    file.insert(file.end(), record.begin(), record.end());
-}
-
-Bytes Record(const Bytes& file, int n) {
-    return {file.begin() + (n - 1) * RecordSize, file.begin() + n * RecordSize};
-}
-
-RecordBytes RecordAt(const Bytes& file, int n) {
+RecordBytes RecordAt(const std::string& file, int n) {
     RecordBytes record{};
     std::copy_n(file.begin() + (n - 1) * RecordSize, RecordSize, record.begin());
     return record;
@@ -70,20 +58,13 @@ ExamRecord ExamOfKind(int kind) {
 class ProgressFileTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        std::remove(ProgressFile);
-        std::remove(NewProgressFile);
         FillCatalogue(state);
         state.CurrentTopic = 3;
         state.TestItemCount = 2;
         state.TestPosition = 1;
         state.TestItems = {0, 5, 6};
     }
-    void StartFile() {
-        Bytes file;
-        Append(file, EncodeHeader(StartedHeader()));
-        WriteFile(ProgressFile, file);
-    }
-
+    StudyFolder folder;
     SessionState state;
     const DateValue today = DateFromParts(2026, 11, 19);
 };
@@ -91,12 +72,12 @@ protected:
 } // namespace
 
 TEST_F(ProgressFileTest, ABrokenOffTestKeepsOneRecordUntilItIsFinished) {
-    WriteFile(ProgressFile, Bytes(RecordSize, 0)); // a first run's file
+    folder.write(ProgressFile, std::string(RecordSize, 0)); // a first run's file
     state.TakeCounts[3] = 2;
     EXPECT_EQ(SaveReviewTest(state, false, today).recordNumber, 2);
     state.TestPosition = 2;
     EXPECT_EQ(SaveReviewTest(state, false, today).recordNumber, 2);
-    Bytes file = ReadFile(ProgressFile);
+    std::string file = folder.read(ProgressFile);
     ASSERT_EQ(file.size(), 2u * RecordSize) << "breaking off twice overwrites the same record";
     EXPECT_EQ(file[5], 2);
     EXPECT_EQ(file[37 + 2], 2) << "TakeCounts(3) in its counter byte";
@@ -108,16 +89,16 @@ TEST_F(ProgressFileTest, ABrokenOffTestKeepsOneRecordUntilItIsFinished) {
     EXPECT_EQ(finished.recordNumber, 2);
     EXPECT_EQ(state.TestPosition, 0);
     EXPECT_EQ(state.SuspendedTestRecord, 0);
-    EXPECT_EQ(ReadFile(ProgressFile)[5], 0);
+    EXPECT_EQ(folder.read(ProgressFile)[5], 0);
     state.TestPosition = 1;
     EXPECT_EQ(SaveReviewTest(state, false, today).recordNumber, 3) << "the next test is new";
 }
 
 TEST_F(ProgressFileTest, HeaderOperationsTouchOnlyTheirOwnBytes) {
-    StartFile();
-    const Bytes before = ReadFile(ProgressFile);
+    folder.write(ProgressFile, File({EncodeHeader(StartedHeader())}));
+    const std::string before = folder.read(ProgressFile);
     AppendProgressLog(11, 0.75f, today);
-    Bytes after = ReadFile(ProgressFile);
+    std::string after = folder.read(ProgressFile);
     for (size_t i = 0; i < after.size(); ++i) {
         const bool slotOne = (i >= 49 && i < 59) || i == 409 || (i >= 445 && i < 449);
         if (!slotOne) {
@@ -130,22 +111,22 @@ TEST_F(ProgressFileTest, HeaderOperationsTouchOnlyTheirOwnBytes) {
 
     for (int i = 2; i <= LogSlotCount; ++i)
         AppendProgressLog(i % 12 + 1, 0.5f, today);
-    const Bytes full = ReadFile(ProgressFile);
+    const std::string full = folder.read(ProgressFile);
     AppendProgressLog(4, 1.0f, today);
-    EXPECT_EQ(ReadFile(ProgressFile), full) << "with all 36 slots taken nothing changes";
+    EXPECT_EQ(folder.read(ProgressFile), full) << "with all 36 slots taken nothing changes";
 
     state.SoundOn = true;
     state.PassingGrade = 75;
     SavePreferences(state);
-    after = ReadFile(ProgressFile);
-    EXPECT_EQ((Bytes{after[0], after[1], after[2], after[3], after[4]}), (Bytes{0, 1, 0, 0, 75}));
+    after = folder.read(ProgressFile);
+    EXPECT_EQ(after.substr(0, 5), std::string({0, 1, 0, 0, 75}));
     EXPECT_TRUE(std::equal(after.begin() + 5, after.end(), full.begin() + 5));
 
     state.ExamItemCount = 2;
     state.ExamAnswered = {0, 1, 1};
     SaveExam(state, true, today);
     SaveReviewTest(state, false, today);
-    after = ReadFile(ProgressFile);
+    after = folder.read(ProgressFile);
     EXPECT_TRUE(std::equal(after.begin() + 589, after.begin() + RecordSize, full.begin() + 589))
         << "the reserved tail passes through every save";
     EXPECT_EQ(after[0], 0);
@@ -154,49 +135,42 @@ TEST_F(ProgressFileTest, HeaderOperationsTouchOnlyTheirOwnBytes) {
 TEST_F(ProgressFileTest, ExamCardRewriteMovesTheSuspendedTestAlong) {
     ProgressHeader h = StartedHeader();
     h.SuspendedTestRecord = 4;
-    Bytes file;
-    Append(file, EncodeHeader(h));
-    Append(file, EncodeExam(ExamOfKind(1)));
-    Append(file, EncodeReviewTest(TestOfTopic(2)));
-    Append(file, EncodeReviewTest(TestOfTopic(5))); // suspended
-    Append(file, EncodeExam(ExamOfKind(3)));
-    WriteFile(ProgressFile, file);
+    folder.write(ProgressFile,
+                 File({EncodeHeader(h), EncodeExam(ExamOfKind(1)), EncodeReviewTest(TestOfTopic(2)),
+                       EncodeReviewTest(TestOfTopic(5)), // suspended
+                       EncodeExam(ExamOfKind(3))}));
     state.SuspendedTestRecord = 4;
 
     // The card kept only the custom exam: it comes first, the two tests follow.
     ASSERT_EQ(RewriteProgressFile(state, std::vector<ExamRecord>{ExamOfKind(3)}, today),
               SaveStatus::Saved);
-    Bytes expected;
-    h.SuspendedTestRecord = 4; // 1 kept + ordinal 2 + 1
-    Append(expected, EncodeHeader(h));
-    Append(expected, EncodeExam(ExamOfKind(3)));
-    Append(expected, EncodeReviewTest(TestOfTopic(2)));
-    Append(expected, EncodeReviewTest(TestOfTopic(5)));
-    EXPECT_EQ(ReadFile(ProgressFile), expected);
+    // Still record 4: 1 kept + ordinal 2 + 1.
+    const std::string expected =
+        File({EncodeHeader(h), EncodeExam(ExamOfKind(3)), EncodeReviewTest(TestOfTopic(2)),
+              EncodeReviewTest(TestOfTopic(5))});
+    EXPECT_EQ(folder.read(ProgressFile), expected);
 
     ASSERT_EQ(RewriteProgressFile(state, std::vector<ExamRecord>{}, today), SaveStatus::Saved);
-    const Bytes after = ReadFile(ProgressFile);
+    const std::string after = folder.read(ProgressFile);
     ASSERT_EQ(after.size(), 3u * RecordSize);
     EXPECT_EQ(state.SuspendedTestRecord, 3);
     EXPECT_EQ(after[5], 3);
     EXPECT_EQ(Record(after, 3), Record(expected, 4));
-    EXPECT_FALSE(std::ifstream(NewProgressFile).good());
+    EXPECT_FALSE(folder.exists(NewProgressFile));
 }
 
 TEST_F(ProgressFileTest, ReviewCardRewriteAndRemovalMoveTheSuspendedExam) {
     ProgressHeader h = StartedHeader();
     h.SuspendedExamRecord = 3;
-    Bytes file;
-    Append(file, EncodeHeader(h));
-    Append(file, EncodeReviewTest(TestOfTopic(1)));
-    Append(file, EncodeExam(ExamOfKind(2))); // suspended
-    Append(file, EncodeReviewTest(TestOfTopic(4)));
-    WriteFile(ProgressFile, file);
+    const std::string file = File({EncodeHeader(h), EncodeReviewTest(TestOfTopic(1)),
+                                   EncodeExam(ExamOfKind(2)), // suspended
+                                   EncodeReviewTest(TestOfTopic(4))});
+    folder.write(ProgressFile, file);
     state.SuspendedExamRecord = 3;
 
     const std::vector<ReviewTestRecord> kept{TestOfTopic(4), TestOfTopic(7), TestOfTopic(1)};
     ASSERT_EQ(RewriteProgressFile(state, kept, today), SaveStatus::Saved);
-    Bytes after = ReadFile(ProgressFile);
+    std::string after = folder.read(ProgressFile);
     EXPECT_EQ(state.SuspendedExamRecord, 5);
     EXPECT_EQ(after[6], 5);
     EXPECT_EQ(after[5], 0);
@@ -204,7 +178,7 @@ TEST_F(ProgressFileTest, ReviewCardRewriteAndRemovalMoveTheSuspendedExam) {
     EXPECT_EQ(Record(after, 5), Record(file, 3));
 
     ASSERT_EQ(RemoveProgressRecord(state, 3, today), SaveStatus::Saved);
-    after = ReadFile(ProgressFile);
+    after = folder.read(ProgressFile);
     ASSERT_EQ(after.size(), 4u * RecordSize);
     EXPECT_EQ(state.SuspendedExamRecord, 4);
     EXPECT_EQ(after[6], 4);
@@ -214,70 +188,45 @@ TEST_F(ProgressFileTest, ReviewCardRewriteAndRemovalMoveTheSuspendedExam) {
 }
 
 TEST_F(ProgressFileTest, ATestBeyondRecord255IsSavedAndKeptForThisRun) {
-    Bytes file;
-    Append(file, EncodeHeader(StartedHeader()));
+    std::string file = File({EncodeHeader(StartedHeader())});
     for (int n = 2; n <= 255; ++n)
-        Append(file, EncodeExam(ExamOfKind(1)));
-    WriteFile(ProgressFile, file);
+        file += File({EncodeExam(ExamOfKind(1))});
+    folder.write(ProgressFile, file);
     SaveResult result = SaveReviewTest(state, false, today);
     EXPECT_EQ(result.status, SaveStatus::SuspendedBeyondHeader);
     EXPECT_EQ(result.recordNumber, 256);
-    EXPECT_EQ(ReadFile(ProgressFile)[5], 0) << "the byte cannot point at 256";
+    EXPECT_EQ(folder.read(ProgressFile)[5], 0) << "the byte cannot point at 256";
     result = SaveReviewTest(state, false, today);
     EXPECT_EQ(result.recordNumber, 256) << "the session still knows its record";
-    EXPECT_EQ(ReadFile(ProgressFile).size(), 256u * RecordSize);
+    EXPECT_EQ(folder.read(ProgressFile).size(), 256u * RecordSize);
 
     // Taking one record out brings it within reach of the header again.
     ASSERT_EQ(RemoveProgressRecord(state, 2, today), SaveStatus::Saved);
     EXPECT_EQ(state.SuspendedTestRecord, 255);
-    EXPECT_EQ(ReadFile(ProgressFile)[5], 255);
+    EXPECT_EQ(static_cast<uint8_t>(folder.read(ProgressFile)[5]), 255);
 }
 
-TEST_F(ProgressFileTest, NumbersThatPointNowhereAreIgnored) {
-    ProgressHeader h = StartedHeader();
-    h.SuspendedTestRecord = 1;   // the header itself
-    h.SuspendedExamRecord = 200; // past the end
-    Bytes file;
-    Append(file, EncodeHeader(h));
-    Append(file, EncodeExam(ExamOfKind(2)));
-    file.resize(file.size() + 300, 0xEE); // a cut-off record
-    WriteFile(ProgressFile, file);
-    RestoreSuspended(state);
-    EXPECT_EQ(state.SuspendedTestRecord, 0);
-    EXPECT_EQ(state.SuspendedExamRecord, 0);
+// Where a suspended number points at a record of the other kind, the test is saved anew.
+TEST_F(ProgressFileTest, ASuspendedNumberAtAnExamSavesTheTestAsANewRecord) {
+    std::string file = File({EncodeHeader(StartedHeader()), EncodeExam(ExamOfKind(2))});
+    file.resize(file.size() + 300, '\xEE'); // a cut-off record
+    folder.write(ProgressFile, file);
     EXPECT_EQ(ProgressRecordCount(), 2);
-    EXPECT_EQ(ReadExamRecords().size(), 1u);
-
-    state.SuspendedTestRecord = 2; // an exam, not a test
+    state.SuspendedTestRecord = 2;
     EXPECT_EQ(SaveReviewTest(state, false, today).recordNumber, 3);
-    EXPECT_EQ(ReadFile(ProgressFile).size(), 3u * RecordSize);
-    EXPECT_EQ(Record(ReadFile(ProgressFile), 2), Record(file, 2));
+    EXPECT_EQ(folder.read(ProgressFile).size(), 3u * RecordSize);
+    EXPECT_EQ(Record(folder.read(ProgressFile), 2), Record(file, 2));
 }
 
-TEST_F(ProgressFileTest, StartUpRestoresAndRecovers) {
-    state.TestPosition = 2;
-    SaveReviewTest(state, false, today);
-    state.ExamItemCount = 1;
-    state.ExamPosition = 1;
-    state.ExamAnswered[1] = 1;
-    state.ExamAnswers[1] = 2;
-    SaveExam(state, false, today);
-
-    SessionState fresh;
-    FillCatalogue(fresh);
-    RestoreSuspended(fresh);
-    EXPECT_EQ(fresh.SuspendedTestRecord, 2);
-    EXPECT_EQ(fresh.TestPosition, 2);
-    EXPECT_EQ(fresh.SuspendedExamRecord, 3);
-    EXPECT_EQ(fresh.ExamPosition, 1);
-    EXPECT_EQ(fresh.ExamAnswers[1], 2);
-
-    const Bytes saved = ReadFile(ProgressFile);
-    std::rename(ProgressFile, NewProgressFile);
+// A NewConfig left complete by a crash replaces the progress file; an unfinished one is dropped.
+TEST_F(ProgressFileTest, StartUpRecoversACompleteRewrite) {
+    const std::string saved = File({EncodeHeader(StartedHeader()), EncodeExam(ExamOfKind(2))});
+    folder.write(NewProgressFile, saved);
     RecoverProgressFile();
-    EXPECT_EQ(ReadFile(ProgressFile), saved);
-    WriteFile(NewProgressFile, Bytes(10, 1));
+    EXPECT_EQ(folder.read(ProgressFile), saved);
+    EXPECT_FALSE(folder.exists(NewProgressFile));
+    folder.write(NewProgressFile, std::string(10, 1));
     RecoverProgressFile();
-    EXPECT_FALSE(std::ifstream(NewProgressFile).good()) << "an unfinished rewrite is dropped";
-    EXPECT_EQ(ReadFile(ProgressFile), saved);
+    EXPECT_FALSE(folder.exists(NewProgressFile)) << "an unfinished rewrite is dropped";
+    EXPECT_EQ(folder.read(ProgressFile), saved);
 }

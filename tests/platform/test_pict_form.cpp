@@ -1,12 +1,15 @@
 #include "core/picture_window.h"
-#include "core/screen_host.h"
 #include "review/pict_form.h"
+#include "tests/support/recording_screens.h"
+#include "tests/support/study_folder.h"
 
 #include <QImage>
 #include <QLabel>
 #include <QTest>
 
-#include <memory>
+#include <array>
+
+Q_DECLARE_METATYPE(tessera::PictureTwips)
 
 namespace tessera {
 
@@ -14,78 +17,50 @@ class TestPictForm : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void windowIsSizedFromThePictureTable();
-    void pictureIsRecognisedByContent();
-    void missingPictureLeavesAnEmptyWindow();
-};
-
-namespace {
-
-// A host that knows only the picture window.
-class PictureHost final : public ScreenHost {
-public:
-    QWidget* load(ScreenName) override {
-        if (!m_form)
-            m_form = std::make_unique<PictForm>();
-        return m_form.get();
+    void showsThePictureInAWindowSizedFromTheTable_data() {
+        QTest::addColumn<QByteArray>("format"); // of the file under the .gph name; empty: none
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<PictureTwips>("twips");
+        QTest::newRow("PNG") << QByteArray("PNG") << QSize(263, 232)
+                             << PictureTwips{4015, 3940, 3945, 3480};
+        QTest::newRow("JPEG, recognised by content")
+            << QByteArray("JPEG") << QSize(20, 10) << PictureTwips{370, 610, 300, 150};
+        QTest::newRow("missing") << QByteArray() << QSize(30, 40)
+                                 << PictureTwips{520, 1060, 450, 600};
     }
-    QWidget* show(ScreenName name) override { return load(name); }
-    void showModal(ScreenName) override {}
-    void unload(ScreenName) override { m_form.reset(); }
-    QWidget* find(ScreenName) const override { return m_form.get(); }
-    bool isAvailable(ScreenName) const { return true; }
-    void endProgram() override {}
-    PictForm* form() const { return m_form.get(); }
 
-private:
-    std::unique_ptr<PictForm> m_form;
+    // The window comes back from a minimised state, and a picture shown before never lingers.
+    void showsThePictureInAWindowSizedFromTheTable() {
+        QFETCH(QByteArray, format);
+        QFETCH(QSize, size);
+        QFETCH(PictureTwips, twips);
+        StudyFolder folder;
+        const auto write = [](const QString& name, QSize pixels, const char* kind) {
+            QImage image(pixels, QImage::Format_RGB32);
+            image.fill(Qt::darkCyan);
+            QVERIFY(image.save(name, kind));
+        };
+        write(QStringLiteral("Tessera09075.gph"), QSize(8, 8), "PNG");
+        if (!format.isEmpty())
+            write(QStringLiteral("Tessera06008.gph"), size, format.constData());
+        PictForm form;
+        RecordingScreenHost host;
+        host.place(ScreenName::PictForm, &form);
+        ShowPicture(host, 8, 8, QStringLiteral("Tessera09075.gph"));
+        form.showMinimized();
+        ShowPicture(host, size.width(), size.height(), QStringLiteral("Tessera06008.gph"));
+        QVERIFY(form.isVisible());
+        QVERIFY(!form.isMinimized());
+        QCOMPARE(form.windowTitle(), QStringLiteral("Form1"));
+        const PictureTwips shown = form.twips();
+        QCOMPARE((std::array{shown.windowWidth, shown.windowHeight, shown.imageWidth,
+                             shown.imageHeight}),
+                 (std::array{twips.windowWidth, twips.windowHeight, twips.imageWidth,
+                             twips.imageHeight}));
+        QCOMPARE(form.Image1->size(), size);
+        QCOMPARE(form.Image1->pixmap().size(), format.isEmpty() ? QSize(0, 0) : size);
+    }
 };
-
-void writePicture(const QString& fileName, QSize size) {
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(Qt::darkCyan);
-    QVERIFY(image.save(fileName, "PNG"));
-}
-
-} // namespace
-
-void TestPictForm::windowIsSizedFromThePictureTable() {
-    PictureHost host;
-    writePicture(QStringLiteral("Tessera06008.gph"), QSize(263, 232));
-    ShowPicture(host, 263, 232, QStringLiteral("Tessera06008.gph"));
-    PictForm* form = host.form();
-    QVERIFY(form->isVisible());
-    QCOMPARE(form->windowTitle(), QStringLiteral("Form1"));
-    QCOMPARE(form->twips().windowWidth, 263 * 15 + 70);
-    QCOMPARE(form->twips().windowHeight, 232 * 15 + 460);
-    QCOMPARE(form->twips().imageWidth, 3945);
-    QCOMPARE(form->twips().imageHeight, 3480);
-    QCOMPARE(form->Image1->size(), QSize(263, 232));
-
-    form->showMinimized();
-    ShowPicture(host, 263, 232, QStringLiteral("Tessera06008.gph"));
-    QVERIFY(!form->isMinimized());
-    QVERIFY(form->isVisible());
-}
-
-void TestPictForm::pictureIsRecognisedByContent() {
-    PictureHost host;
-    QImage image(20, 10, QImage::Format_RGB32);
-    image.fill(Qt::red);
-    QVERIFY(image.save(QStringLiteral("Tessera09075.gph"), "JPEG"));
-    ShowPicture(host, 20, 10, QStringLiteral("Tessera09075.gph"));
-    QCOMPARE(host.form()->Image1->pixmap().size(), QSize(20, 10));
-}
-
-void TestPictForm::missingPictureLeavesAnEmptyWindow() {
-    PictureHost host;
-    writePicture(QStringLiteral("Tessera06008.gph"), QSize(8, 8));
-    ShowPicture(host, 8, 8, QStringLiteral("Tessera06008.gph"));
-    ShowPicture(host, 30, 40, QStringLiteral("missing.gph"));
-    QVERIFY(host.form()->isVisible());
-    QVERIFY(host.form()->Image1->pixmap().isNull());
-    QCOMPARE(host.form()->Image1->size(), QSize(30, 40));
-}
 
 } // namespace tessera
 

@@ -1,6 +1,7 @@
 #include "platform/print_rich_text.h"
 #include "platform/rich_text_view.h"
 #include "tests/support/recording_printer.h"
+#include "tests/support/study_folder.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -15,6 +16,7 @@ private Q_SLOTS:
     void plainTextPositionsMatchTheSelection();
     void readOnlyViewPassesOnlyTheCopyKey();
     void saveThenLoadBringsTheDocumentBack();
+    void printsTheSelectionOrTheWholeText_data();
     void printsTheSelectionOrTheWholeText();
     void rightMarginSetsTheWrapWidth();
 };
@@ -24,6 +26,8 @@ namespace {
 const std::string Heading = "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\\pard\\b\\qc\\fs32 Agency\\par"
                             "\\pard\\plain\\fs20 A broker\\tab owes {\\i fiduciary} duties to the "
                             "\\'93principal\\'94.\\par }\\par }ignored";
+const QString Whole =
+    QStringLiteral("Agency\nA broker\towes fiduciary duties to the \u201Cprincipal\u201D.\n");
 
 } // namespace
 
@@ -31,8 +35,7 @@ void TestRichTextView::plainTextPositionsMatchTheSelection() {
     RichTextView view;
     view.setTextRtf(Heading);
     const QString text = view.text();
-    QCOMPARE(text, QStringLiteral("Agency\nA broker\towes fiduciary duties to the "
-                                  "\u201Cprincipal\u201D.\n"));
+    QCOMPARE(text, Whole);
     for (const QString& word : {QStringLiteral("fiduciary"), QStringLiteral("principal")}) {
         view.setSelStart(static_cast<int>(text.indexOf(word)));
         view.setSelLength(static_cast<int>(word.size()));
@@ -70,6 +73,7 @@ void TestRichTextView::readOnlyViewPassesOnlyTheCopyKey() {
 }
 
 void TestRichTextView::saveThenLoadBringsTheDocumentBack() {
+    StudyFolder folder;
     RichTextView notebook;
     notebook.setTextRtf(Heading);
     QVERIFY(notebook.saveFile(QStringLiteral("TesseraNoteBook.RTF")));
@@ -80,39 +84,43 @@ void TestRichTextView::saveThenLoadBringsTheDocumentBack() {
     QVERIFY(!reopened.loadFile(QStringLiteral("missing.rtf")));
 }
 
+void TestRichTextView::printsTheSelectionOrTheWholeText_data() {
+    QTest::addColumn<int>("copies"); // 0: the dialog is cancelled
+    QTest::addColumn<bool>("selectionOnly");
+    QTest::addColumn<bool>("failing");
+    QTest::addColumn<QStringList>("printed");
+    QTest::addColumn<int>("jobsEnded");
+    const QString broker = QStringLiteral("A broker");
+    QTest::newRow("selection") << 2 << true << false << QStringList{broker, broker} << 1;
+    QTest::newRow("whole text") << 1 << false << false << QStringList{Whole} << 1;
+    // A printer that fails stops the copies; the job is not sent.
+    QTest::newRow("failing printer") << 3 << false << true << QStringList{} << 0;
+    QTest::newRow("cancelled") << 0 << false << false << QStringList{} << 0;
+}
+
 void TestRichTextView::printsTheSelectionOrTheWholeText() {
+    QFETCH(int, copies);
+    QFETCH(bool, selectionOnly);
+    QFETCH(bool, failing);
+    QFETCH(QStringList, printed);
+    QFETCH(int, jobsEnded);
     RichTextView view;
     view.setTextRtf(Heading);
     view.setSelStart(7);
     view.setSelLength(8);
-
-    RecordingPrinter selection;
-    selection.dialogAnswer = PrintChoice{2, true};
-    PrintRichText(view, selection);
-    QCOMPARE(selection.dialogsShown, std::vector<PrintDialogKind>{PrintDialogKind::RichText});
-    QCOMPARE(selection.documents.size(), 2u);
-    QCOMPARE(selection.documents[1].text, QStringLiteral("A broker"));
-    QCOMPARE(selection.jobsEnded, 1);
-
-    RecordingPrinter whole;
-    whole.dialogAnswer = PrintChoice{1, false};
-    PrintRichText(view, whole);
-    QCOMPARE(whole.documents.size(), 1u);
-    QCOMPARE(whole.documents[0].text, view.text());
-
-    // A printer that fails stops the copies; the job is not sent.
-    RecordingPrinter failing;
-    failing.dialogAnswer = PrintChoice{3, false};
-    failing.failAfterLines = 0;
-    PrintRichText(view, failing);
-    QVERIFY(failing.documents.empty());
-    QCOMPARE(failing.jobsEnded, 0);
-
-    RecordingPrinter cancelled;
-    cancelled.dialogAnswer.reset();
-    PrintRichText(view, cancelled);
-    QVERIFY(cancelled.documents.empty());
-    QCOMPARE(cancelled.jobsEnded, 0);
+    RecordingPrinter printer;
+    printer.dialogAnswer = PrintChoice{copies, selectionOnly};
+    if (copies == 0)
+        printer.dialogAnswer.reset();
+    if (failing)
+        printer.failAfterLines = 0;
+    PrintRichText(view, printer);
+    QCOMPARE(printer.dialogsShown, std::vector<PrintDialogKind>{PrintDialogKind::RichText});
+    QStringList documents;
+    for (const auto& document : printer.documents)
+        documents << document.text;
+    QCOMPARE(documents, printed);
+    QCOMPARE(printer.jobsEnded, jobsEnded);
 }
 
 void TestRichTextView::rightMarginSetsTheWrapWidth() {
