@@ -9,8 +9,16 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <variant>
 
 namespace tessera {
+
+// What the calculator keeps from one opening to the next within a run: its memory and operands.
+struct CalculatorKept {
+    double MemoryValue = 0;
+    std::variant<std::string, double> FirstOperand = 0.0; // text when copied, float when computed
+    std::string SecondOperand = "0";
+};
 
 // DateValue: see core/date_value.h
 
@@ -75,6 +83,7 @@ struct SessionState {
     int16_t HelpTopic = 1;
     int16_t ViewerSection = 1;
     bool NoteBookChanged = false;
+    CalculatorKept Calculator;
 
     // ProgressHeader, ReviewTestRecord and ExamRecord: scratch buffers of the file operations.
     RecordBuffers Buffers;

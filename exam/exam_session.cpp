@@ -23,11 +23,6 @@ int ExamList::selectedPosition() const {
     return selected >= 0 && selected < rows() ? positions[selected] : 0;
 }
 
-int ExamList::rowOf(int position) const {
-    const auto at = std::lower_bound(positions.begin(), positions.end(), position);
-    return at != positions.end() && *at == position ? static_cast<int>(at - positions.begin()) : -1;
-}
-
 namespace {
 void AddRow(ExamList& list, int position) {
     const auto at = std::lower_bound(list.positions.begin(), list.positions.end(), position);

@@ -24,7 +24,6 @@ struct ExamList {
 
     int rows() const { return static_cast<int>(positions.size()); }
     int selectedPosition() const;
-    int rowOf(int position) const;
 };
 
 // Where a key was pressed: the rules for the answer letters differ.
@@ -102,7 +101,6 @@ public:
     bool clockRunning() const { return m_clockRunning; }
     bool timeExpired() const { return m_timeExpired; }
     bool examFinished() const { return m_examFinished; }
-    bool closingDown() const { return m_closingDown; }
     bool closeRequested() const { return m_closeRequested; }
     // Counts each showing of an item, so that the screen shows or unloads the picture anew.
     int itemShowings() const { return m_itemShowings; }

@@ -54,8 +54,6 @@ public:
     bool takeEnabled() const { return m_takeEnabled; }
     int pool() const { return m_pool; }
     std::string poolText() const;
-    int customItems() const { return m_customItems; }
-    int customTimeSlot() const { return m_customTimeSlot; }
 
 private:
     void setTopicsFromSession();

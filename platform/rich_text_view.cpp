@@ -91,10 +91,6 @@ QString RichTextView::selText() const {
     return text;
 }
 
-std::string RichTextView::selRtf() const {
-    return writeRtf(textCursor());
-}
-
 bool RichTextView::loadFile(const QString& fileName) {
     const std::optional<std::string> bytes = Files().read(fileName.toStdString());
     if (!bytes)

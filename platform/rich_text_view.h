@@ -35,9 +35,6 @@ public:
     void setSelStart(int start);
     void setSelLength(int length);
     QString selText() const;
-    // The selection as an RTF document; with nothing selected, only the prologue in the
-    // cursor's formats and the closing "\r\n}\r\n".
-    std::string selRtf() const;
 
     // The rich text file is shown; false if it cannot be read.
     bool loadFile(const QString& fileName);

@@ -22,7 +22,7 @@ const std::array<const char*, 7> CommandNames = {"Percent",      "Square root", 
 } // namespace
 
 Calculator::Calculator(ScreenContext& context, QWidget* parent)
-    : QWidget(parent), m_context(context) {
+    : QWidget(parent), m_context(context), m_machine(context.state.Calculator) {
     setObjectName(QStringLiteral("Calculator"));
     setWindowTitle(QStringLiteral("Calculator"));
     for (int i = 0; i <= 9; ++i)
@@ -129,6 +129,7 @@ void Calculator::buildLayout() {
 
 void Calculator::press(CalculatorControl control, int index) {
     const CalculatorMachine::Message message = m_machine.press(control, index);
+    m_context.state.Calculator = m_machine.kept();
     if (message)
         m_context.services.dialogs.message(
             QString::fromStdString(message->text), QString::fromStdString(message->title),

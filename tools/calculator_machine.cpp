@@ -104,11 +104,11 @@ CalculatorMachine::Message CalculatorMachine::operatorKey(int index) {
         ++m_operandCount;
     Message shown;
     if (m_operandCount == 1) {
-        m_firstOperand = m_readout;
+        m_kept.FirstOperand = m_readout;
     } else if (m_operandCount >= 2) {
-        m_secondOperand = entryText;
-        const double first = valueOf(m_firstOperand);
-        const double second = NumericValue(m_secondOperand);
+        m_kept.SecondOperand = entryText;
+        const double first = valueOf(m_kept.FirstOperand);
+        const double second = NumericValue(m_kept.SecondOperand);
         std::optional<double> result;
         if (m_pendingOperator == "+") {
             result = first + second;
@@ -122,14 +122,14 @@ CalculatorMachine::Message CalculatorMachine::operatorKey(int index) {
             else
                 result = first / second;
         } else if (m_pendingOperator == "=") {
-            m_firstOperand = m_secondOperand;
+            m_kept.FirstOperand = m_kept.SecondOperand;
         }
         if (result) {
             if (!std::isfinite(*result))
                 return overflow();
-            m_firstOperand = *result;
+            m_kept.FirstOperand = *result;
         }
-        m_readout = textOf(m_firstOperand);
+        m_readout = textOf(m_kept.FirstOperand);
         m_operandCount = 1;
     }
     m_lastInput = LastInputKind::Ops;
@@ -162,22 +162,24 @@ CalculatorMachine::Message CalculatorMachine::memory(MemoryKey key) {
     switch (key) {
     case MemoryKey::Clear:
         m_memoryLine.clear();
-        m_memoryValue = 0;
+        m_kept.MemoryValue = 0;
         return {};
     case MemoryKey::Recall:
-        if (m_memoryValue != 0)
-            m_readout = FloatText(m_memoryValue);
+        if (m_kept.MemoryValue != 0)
+            m_readout = FloatText(m_kept.MemoryValue);
         return {};
     case MemoryKey::Add:
     case MemoryKey::Subtract:
         break;
     }
     const double entry = NumericValue(m_readout);
-    const double changed = key == MemoryKey::Add ? m_memoryValue + entry : m_memoryValue - entry;
+    const double changed =
+        key == MemoryKey::Add ? m_kept.MemoryValue + entry : m_kept.MemoryValue - entry;
     if (!std::isfinite(changed))
         return overflow();
-    m_memoryValue = changed;
-    m_memoryLine = m_memoryValue == 0 ? std::string() : "Mem:  " + FloatText(m_memoryValue);
+    m_kept.MemoryValue = changed;
+    m_memoryLine =
+        m_kept.MemoryValue == 0 ? std::string() : "Mem:  " + FloatText(m_kept.MemoryValue);
     return {};
 }
 
@@ -191,8 +193,8 @@ void CalculatorMachine::cancel() {
     }
     // The second press in a row clears all but the memory.
     m_clearPresses = 0;
-    m_firstOperand = 0.0;
-    m_secondOperand = "0";
+    m_kept.FirstOperand = 0.0;
+    m_kept.SecondOperand = "0";
     m_operandCount = 0;
     m_lastInput = LastInputKind::None;
     m_pendingOperator = " ";
@@ -204,8 +206,8 @@ CalculatorMachine::Message CalculatorMachine::overflow() {
     m_lastInput = LastInputKind::None;
     m_pendingOperator = " ";
     m_readout = "0.";
-    m_firstOperand = 0.0;
-    m_secondOperand = "0";
+    m_kept.FirstOperand = 0.0;
+    m_kept.SecondOperand = "0";
     return OverflowMessage;
 }
 

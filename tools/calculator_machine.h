@@ -2,11 +2,13 @@
 // The calculator's state machine, kept as text in the display the way the desk calculator
 // keeps it: the entry is the readout, and arithmetic reads it anew each time.
 
+#include "core/session_state.h"
 #include "tools/calculator_keys.h"
 
 #include <array>
 #include <optional>
 #include <string>
+#include <utility>
 #include <variant>
 
 namespace tessera {
@@ -34,6 +36,9 @@ class CalculatorMachine {
 public:
     using Message = std::optional<CalculatorMessage>;
 
+    // A new opening starts from what the last one kept.
+    explicit CalculatorMachine(CalculatorKept kept = {}) : m_kept(std::move(kept)) {}
+
     // Pressing a control, as a click or CalculatorKey does. Help and unloading are the
     // screen's; to the machine, Command1(2) only resets the count of clears.
     Message press(CalculatorControl control, int index = 0);
@@ -58,10 +63,10 @@ public:
     const std::string& pendingOperator() const { return m_pendingOperator; }
     int operandCount() const { return m_operandCount; }
     int clearPresses() const { return m_clearPresses; }
-    double memoryValue() const { return m_memoryValue; }
+    double memoryValue() const { return m_kept.MemoryValue; }
+    const CalculatorKept& kept() const { return m_kept; }
 
 private:
-    // The running value is the readout's text when copied, a float when computed.
     using Operand = std::variant<std::string, double>;
     static double valueOf(const Operand& operand);
     static std::string textOf(const Operand& operand);
@@ -69,14 +74,12 @@ private:
     // Every run-time error of an operator or a Command1 button: one message, then a reset.
     Message overflow();
 
+    CalculatorKept m_kept;
     std::string m_readout = "0.";
-    Operand m_firstOperand = 0.0;
-    std::string m_secondOperand = "0";
     bool m_pointTyped = false;
     int m_operandCount = 0;
     LastInputKind m_lastInput = LastInputKind::None;
     std::string m_pendingOperator = " ";
-    double m_memoryValue = 0;
     std::string m_memoryLine;
     int m_clearPresses = 0;
 };

@@ -32,8 +32,6 @@ public:
 
     explicit Viewing(ScreenContext& context);
 
-    bool isGlossary() const { return m_glossary; }
-
     RichTextView* RichTextBox1 = nullptr;
     RichTextView* RichTextBox2 = nullptr;
     TextFrame* Shape1 = nullptr;

@@ -76,6 +76,10 @@ private Q_SLOTS:
         QCOMPARE(calculator->Readout->text(), QStringLiteral("9"));
         QTest::keyClick(button("Number_10"), Qt::Key_C, Qt::ControlModifier);
         QVERIFY(!calculator->isVisible());
+        calculator = std::make_unique<Calculator>(f->context); // the memory outlives closing
+        QVERIFY(calculator->Label1->text().isEmpty());
+        button("Command1_4")->click();
+        QCOMPARE(calculator->Readout->text(), QStringLiteral("9"));
     }
 
     void messagesGoThroughTheDialogs() {
