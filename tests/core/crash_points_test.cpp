@@ -6,6 +6,7 @@
 #include "core/progress_file.h"
 #include "core/run_journal.h"
 #include "platform/rich_text_view.h"
+#include "tests/core/progress_records.h"
 #include "tests/support/faulty_files.h"
 #include "tests/support/study_folder.h"
 
@@ -21,38 +22,6 @@ namespace {
 constexpr const char* NoteBookFile = "TesseraNoteBook.RTF";
 const DateValue Today = DateFromParts(2026, 11, 19);
 
-std::string Bytes(const RecordBytes& record) {
-    return {record.begin(), record.end()};
-}
-
-ReviewTestRecord Test(int topic, int position) {
-    ReviewTestRecord r;
-    r.Topic = static_cast<uint8_t>(topic);
-    r.Date = "03-04-2026";
-    r.Position = static_cast<int16_t>(position);
-    r.Furthest = static_cast<int16_t>(position);
-    r.ItemCount = 4;
-    r.TestType = 1;
-    for (int p = 1; p <= 4; ++p)
-        r.Items[p] = static_cast<int16_t>(topic * 10 + p);
-    return r;
-}
-
-ExamRecord Exam(int kind, int position) {
-    ExamRecord e;
-    e.Kind = static_cast<uint8_t>(kind + 9);
-    e.Date = "05-06-2026";
-    e.Position = static_cast<int16_t>(position);
-    e.ItemCount = 3;
-    e.ExamType = static_cast<uint8_t>(kind);
-    e.TimeLimit = 30;
-    for (int p = 1; p <= 3; ++p) {
-        e.Items[p] = static_cast<int16_t>(kind * 100 + p);
-        e.AnswerCodes[p] = 1;
-    }
-    return e;
-}
-
 // A history of finished tests and exams, with the test of record 5 and the exam of record 7
 // suspended.
 std::vector<std::string> StartingRecords() {
@@ -61,23 +30,16 @@ std::vector<std::string> StartingRecords() {
     header.PassingGrade = 70;
     header.SuspendedTestRecord = 5;
     header.SuspendedExamRecord = 7;
-    return {Bytes(EncodeHeader(header)),         Bytes(EncodeReviewTest(Test(1, 0))),
-            Bytes(EncodeExam(Exam(1, 0))),       Bytes(EncodeReviewTest(Test(2, 0))),
-            Bytes(EncodeReviewTest(Test(3, 2))), Bytes(EncodeExam(Exam(2, 0))),
-            Bytes(EncodeExam(Exam(3, 1)))};
+    return RecordsOf(
+        File({EncodeHeader(header), EncodeReviewTest(TestOfTopic(1)), EncodeExam(ExamOfKind(1)),
+              EncodeReviewTest(TestOfTopic(2)), EncodeReviewTest(TestOfTopic(3, 2)),
+              EncodeExam(ExamOfKind(2)), EncodeExam(ExamOfKind(3, 1))}));
 }
 
 // The finished records: all but the header and the two suspended ones.
 std::vector<std::string> FinishedRecords() {
     const std::vector<std::string> records = StartingRecords();
     return {records[1], records[2], records[3], records[5]};
-}
-
-std::vector<std::string> RecordsOf(const std::string& file) {
-    std::vector<std::string> records;
-    for (std::size_t at = 0; at + RecordSize <= file.size(); at += RecordSize)
-        records.push_back(file.substr(at, RecordSize));
-    return records;
 }
 
 struct Operation {
@@ -88,10 +50,10 @@ struct Operation {
 
 std::vector<Operation> Operations() {
     const auto erasedOnCard = [](SessionState& state) {
-        RewriteProgressFile(state, std::vector<ReviewTestRecord>{Test(2, 0)}, Today);
+        RewriteProgressFile(state, std::vector<ReviewTestRecord>{TestOfTopic(2)}, Today);
     };
     const auto examsErased = [](SessionState& state) {
-        RewriteProgressFile(state, std::vector<ExamRecord>{Exam(2, 0), Exam(1, 0)}, Today);
+        RewriteProgressFile(state, std::vector<ExamRecord>{ExamOfKind(2), ExamOfKind(1)}, Today);
     };
     return {
         {"SaveReviewTest, broken off", ProgressFile,

@@ -1,4 +1,5 @@
 #include "core/progress_file.h"
+#include "tests/core/progress_records.h"
 #include "tests/support/study_folder.h"
 
 #include <gtest/gtest.h>
@@ -7,16 +8,9 @@ using namespace tessera;
 
 namespace {
 
-// A progress file of the given records, the header first.
-std::string File(std::initializer_list<RecordBytes> records) {
-    std::string file;
-    for (const RecordBytes& record : records)
-        file.append(record.begin(), record.end());
-    return file;
-}
-
+// Record n of a file, 1 for the header.
 std::string Record(const std::string& file, int n) {
-    return file.substr(static_cast<size_t>((n - 1) * RecordSize), RecordSize);
+    return RecordsOf(file).at(static_cast<size_t>(n - 1));
 }
 
 RecordBytes RecordAt(const std::string& file, int n) {
@@ -35,24 +29,6 @@ ProgressHeader StartedHeader() {
     for (int i = 0; i < ReservedHeaderBytes; ++i)
         h.Reserved[i] = static_cast<uint8_t>(i * 7 + 3);
     return h;
-}
-
-ReviewTestRecord TestOfTopic(int topic) {
-    ReviewTestRecord r;
-    r.Topic = static_cast<uint8_t>(topic);
-    r.Date = "03-04-2026";
-    r.ItemCount = 2;
-    r.Items[1] = static_cast<int16_t>(topic * 10);
-    return r;
-}
-
-ExamRecord ExamOfKind(int kind) {
-    ExamRecord e;
-    e.Kind = static_cast<uint8_t>(kind + 9);
-    e.Date = "05-06-2026";
-    e.ItemCount = 3;
-    e.Items[3] = static_cast<int16_t>(kind * 100);
-    return e;
 }
 
 class ProgressFileTest : public ::testing::Test {

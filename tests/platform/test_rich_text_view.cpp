@@ -16,7 +16,6 @@ private Q_SLOTS:
     void plainTextPositionsMatchTheSelection();
     void readOnlyViewPassesOnlyTheCopyKey();
     void saveThenLoadBringsTheDocumentBack();
-    void printsTheSelectionOrTheWholeText_data();
     void printsTheSelectionOrTheWholeText();
     void rightMarginSetsTheWrapWidth();
 };
@@ -84,43 +83,36 @@ void TestRichTextView::saveThenLoadBringsTheDocumentBack() {
     QVERIFY(!reopened.loadFile(QStringLiteral("missing.rtf")));
 }
 
-void TestRichTextView::printsTheSelectionOrTheWholeText_data() {
-    QTest::addColumn<int>("copies"); // 0: the dialog is cancelled
-    QTest::addColumn<bool>("selectionOnly");
-    QTest::addColumn<bool>("failing");
-    QTest::addColumn<QStringList>("printed");
-    QTest::addColumn<int>("jobsEnded");
-    const QString broker = QStringLiteral("A broker");
-    QTest::newRow("selection") << 2 << true << false << QStringList{broker, broker} << 1;
-    QTest::newRow("whole text") << 1 << false << false << QStringList{Whole} << 1;
-    // A printer that fails stops the copies; the job is not sent.
-    QTest::newRow("failing printer") << 3 << false << true << QStringList{} << 0;
-    QTest::newRow("cancelled") << 0 << false << false << QStringList{} << 0;
-}
-
 void TestRichTextView::printsTheSelectionOrTheWholeText() {
-    QFETCH(int, copies);
-    QFETCH(bool, selectionOnly);
-    QFETCH(bool, failing);
-    QFETCH(QStringList, printed);
-    QFETCH(int, jobsEnded);
     RichTextView view;
     view.setTextRtf(Heading);
-    view.setSelStart(7);
-    view.setSelLength(8);
-    RecordingPrinter printer;
-    printer.dialogAnswer = PrintChoice{copies, selectionOnly};
-    if (copies == 0)
-        printer.dialogAnswer.reset();
-    if (failing)
-        printer.failAfterLines = 0;
-    PrintRichText(view, printer);
-    QCOMPARE(printer.dialogsShown, std::vector<PrintDialogKind>{PrintDialogKind::RichText});
-    QStringList documents;
-    for (const auto& document : printer.documents)
-        documents << document.text;
-    QCOMPARE(documents, printed);
-    QCOMPARE(printer.jobsEnded, jobsEnded);
+    const QString broker = QStringLiteral("A broker");
+    const struct {
+        std::optional<PrintChoice> choice; // none: the dialog is cancelled
+        std::optional<int> failAfterLines;
+        QStringList printed;
+        int jobsEnded;
+    } cases[] = {
+        {PrintChoice{2, true}, std::nullopt, {broker, broker}, 1},
+        {PrintChoice{1, false}, std::nullopt, {Whole}, 1},
+        // A printer that fails stops the copies; the job is not sent.
+        {PrintChoice{3, false}, 0, {}, 0},
+        {std::nullopt, std::nullopt, {}, 0},
+    };
+    for (const auto& c : cases) {
+        view.setSelStart(7);
+        view.setSelLength(8);
+        RecordingPrinter printer;
+        printer.dialogAnswer = c.choice;
+        printer.failAfterLines = c.failAfterLines;
+        PrintRichText(view, printer);
+        QCOMPARE(printer.dialogsShown, std::vector<PrintDialogKind>{PrintDialogKind::RichText});
+        QStringList documents;
+        for (const auto& document : printer.documents)
+            documents << document.text;
+        QCOMPARE(documents, c.printed);
+        QCOMPARE(printer.jobsEnded, c.jobsEnded);
+    }
 }
 
 void TestRichTextView::rightMarginSetsTheWrapWidth() {

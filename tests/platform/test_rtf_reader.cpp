@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace tessera {
 namespace {
 
@@ -57,12 +59,10 @@ TEST(RtfReader, KeepsParagraphFormatting) {
     const QTextBlock centre = document.firstBlock();
     EXPECT_EQ(centre.blockFormat().alignment() & Qt::AlignHorizontal_Mask, Qt::AlignHCenter);
     const QTextBlockFormat indented = centre.next().blockFormat();
-    EXPECT_EQ(indented.leftMargin(), 48);
-    EXPECT_EQ(indented.rightMargin(), 24);
-    EXPECT_EQ(indented.textIndent(), -24);
-    ASSERT_EQ(indented.tabPositions().size(), 2);
-    EXPECT_EQ(indented.tabPositions()[0].position, 96);
-    EXPECT_EQ(indented.tabPositions()[1].type, QTextOption::RightTab);
+    EXPECT_EQ(std::tuple(indented.leftMargin(), indented.rightMargin(), indented.textIndent()),
+              std::tuple(48, 24, -24));
+    EXPECT_EQ(indented.tabPositions(),
+              (QList<QTextOption::Tab>{{96, QTextOption::LeftTab}, {288, QTextOption::RightTab}}));
     EXPECT_EQ(indented.alignment() & Qt::AlignHorizontal_Mask, Qt::AlignLeft);
     EXPECT_EQ(centre.next().next().blockFormat().alignment() & Qt::AlignHorizontal_Mask,
               Qt::AlignRight);
@@ -79,10 +79,9 @@ TEST(RtfReader, PlainAndPardResetWhatGroupsDoNot) {
     EXPECT_EQ(document.defaultTextOption().tabStopDistance(), 24);
     const QTextBlockFormat kept = document.findBlockByNumber(1).blockFormat();
     EXPECT_EQ(kept.alignment() & Qt::AlignHorizontal_Mask, Qt::AlignHCenter);
-    EXPECT_EQ(kept.leftMargin(), 24);
-    EXPECT_EQ(kept.topMargin(), 8);
-    EXPECT_EQ(kept.bottomMargin(), 16);
-    EXPECT_EQ(kept.tabPositions().size(), 1);
+    EXPECT_EQ(std::tuple(kept.leftMargin(), kept.topMargin(), kept.bottomMargin(),
+                         kept.tabPositions().size()),
+              std::tuple(24, 8, 16, 1));
     const QTextBlockFormat reset = document.findBlockByNumber(2).blockFormat();
     EXPECT_EQ(reset.leftMargin(), 0);
     EXPECT_TRUE(reset.tabPositions().isEmpty());
@@ -153,6 +152,10 @@ TEST(RtfReader, ReadsTheTextAsTheCandidateSeesIt) {
          QStringLiteral("big")},
         {"binary past the end", "{\\rtf1 x\\bin99999999999 lost}", QStringLiteral("x")},
         {"nested too deep", deep, QStringLiteral("ab")},
+        {"nested too deep, never closed", "{\\rtf1 " + std::string(200000, '{') + "deep",
+         QString()},
+        {"cut short", "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\\f0\\b Notes: ca",
+         QStringLiteral("Notes: ca")},
         {"not RTF at all", "plain text\r\nsecond line", QStringLiteral("plain text\nsecond line")},
     };
     for (const auto& c : cases)

@@ -149,6 +149,17 @@ std::function<void(const Seen&)> NothingRestored(const std::vector<QString>& sai
     };
 }
 
+// Counts and positions are brought within the tables, and an exam kind outside them is 1.
+std::function<void(const Seen&)> CountsAndPositionsAre(int value) {
+    return [=](const Seen& seen) {
+        EXPECT_TRUE(seen.messages.empty());
+        const SessionState& s = seen.state;
+        EXPECT_EQ((std::vector<int>{s.TestItemCount, s.TestPosition, s.ExamItemCount,
+                                    s.ExamPosition, s.ExamKind}),
+                  (std::vector<int>{value, value, value, value, 1}));
+    };
+}
+
 // An empty progress file is a first run: the name is asked for.
 void AskedForTheName(const Seen& seen) {
     EXPECT_EQ(seen.outcome, StartUpOutcome::Ready);
@@ -174,10 +185,6 @@ std::function<void(const Seen&)> CutAsFarAsItGoes(int items, int exams, int glos
         for (const auto& [topic, count] : topics)
             EXPECT_EQ(c.ItemCounts[topic][1], count) << "topic " << topic;
     };
-}
-
-void OpensAs(const Seen& seen, const QString& start) {
-    EXPECT_TRUE(seen.noteBookText.startsWith(start)) << seen.noteBookText.left(80).toStdString();
 }
 
 void EmptyPicture(const Seen& seen) {
@@ -306,25 +313,13 @@ const std::vector<Case>& Cases() {
              return EarlierRun(Suspending(2, 3),
                                {EncodeReviewTest(Review(1000, 900)), EncodeExam(exam)});
          },
-         [](const Seen& seen) {
-             EXPECT_TRUE(seen.messages.empty());
-             EXPECT_EQ(seen.state.ExamKind, 1);
-             EXPECT_EQ(seen.state.TestItemCount, ExamItemLimit);
-             EXPECT_EQ(seen.state.TestPosition, ExamItemLimit);
-             EXPECT_EQ(seen.state.ExamItemCount, ExamItemLimit);
-             EXPECT_EQ(seen.state.ExamPosition, ExamItemLimit);
-         }},
+         CountsAndPositionsAre(ExamItemLimit)},
         {"progress_negative_counts", File::Progress,
          [] {
              return EarlierRun(Suspending(2, 3),
                                {EncodeReviewTest(Review(-7, -2)), EncodeExam(Exam(-32768, -1))});
          },
-         [](const Seen& seen) {
-             EXPECT_EQ(seen.state.TestItemCount, 0);
-             EXPECT_EQ(seen.state.TestPosition, 0);
-             EXPECT_EQ(seen.state.ExamItemCount, 0);
-             EXPECT_EQ(seen.state.ExamPosition, 0);
-         }},
+         CountsAndPositionsAre(0)},
         {"progress_item_numbers_out_of_range", File::Progress,
          [] {
              const std::vector<int16_t> items = {797, -1, 32767, -32768, 796};
@@ -361,19 +356,12 @@ const std::vector<Case>& Cases() {
              EXPECT_EQ(ReadReviewTestRecords().size() + ReadExamRecords().size(), 50u);
          }},
 
-        // The notebook: whatever it holds opens, and opening it changes nothing on disk.
+        // The notebook: whatever it holds opens (the reader's own tests show what it shows), and
+        // opening it changes nothing on disk.
         {"notebook_missing", File::NoteBook, nullptr,
          [](const Seen& seen) { EXPECT_TRUE(seen.noteBookText.isEmpty()); }},
-        {"notebook_not_rtf", File::NoteBook, [] { return std::string("Call the lender\r\n"); },
-         [](const Seen& seen) { OpensAs(seen, QStringLiteral("Call the lender\n")); }},
-        {"notebook_truncated", File::NoteBook,
-         [] { return std::string("{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\\f0\\b Notes: ca"); },
-         [](const Seen& seen) { OpensAs(seen, QStringLiteral("Notes: ca")); }},
         {"notebook_binary", File::NoteBook, [] { return Junk(64 * 1024, 3); },
          [](const Seen& seen) { EXPECT_FALSE(seen.noteBookText.isEmpty()); }},
-        {"notebook_nested_groups", File::NoteBook,
-         [] { return "{\\rtf1 " + std::string(200000, '{') + "deep"; },
-         [](const Seen& seen) { EXPECT_TRUE(seen.noteBookText.isEmpty()) << "too deep: skipped"; }},
         {"notebook_very_large", File::NoteBook,
          [] {
              std::string rtf = "{\\rtf1\\ansi ";
