@@ -57,33 +57,6 @@ private Q_SLOTS:
         QCOMPARE(keys.size(), 8);
     }
 
-    void cleanRunScoresEveryItemRightAtTheFirstTry() {
-        auto quiz = open(2);
-        for (int position = 1; position <= 3; ++position) {
-            const char letter = static_cast<char>('A' + quiz->right());
-            quiz->answerRight();
-            QCOMPARE(quiz->label("Label2"), QStringLiteral("<%1> is the best choice.").arg(letter));
-            QCOMPARE(quiz->labelColour("Label2"), int(RightColour));
-            QVERIFY(quiz->documentText().contains(QStringLiteral("Explanation")));
-            QCOMPARE(quiz->button(7)->text(), QStringLiteral("&Break"));
-            QVERIFY(!quiz->button(5)->isEnabled());
-            QCOMPARE(quiz->button(11)->isEnabled(), position > 1);
-            QCOMPARE(quiz->button(6)->text(),
-                     position == 3 ? QStringLiteral("&Done") : QStringLiteral("&Next"));
-            if (position < 3)
-                quiz->next();
-        }
-        QCOMPARE(quiz->screen().findChild<QProgressBar*>()->value(), 100);
-        QCOMPARE(quiz->label("Label3"), QStringLiteral("Right: 3"));
-        QCOMPARE(quiz->label("Label4"), QStringLiteral("Wrong: 0"));
-        QCOMPARE(quiz->label("Label5"), QStringLiteral("Tries: 3"));
-        QCOMPARE(quiz->label("Label6"), QStringLiteral("100.0%"));
-        QCOMPARE(quiz->labelColour("Label6"), int(PassingColour));
-        QVERIFY(quiz->screen()
-                    .findChild<QLabel*>(QStringLiteral("HandShake"))
-                    ->isVisibleTo(&quiz->screen()));
-    }
-
     // Topic 1's first item is keyed A. Steps: a capital clicks that answer's button, a small
     // letter is typed as a key, F takes the free guess; an empty label is not looked at.
     void answering_data() {

@@ -1,14 +1,17 @@
-// Quiz800 at the grain of the whole test: the end with its "Finished" box, when a drill counts,
-// breaking off and resuming, closing the window, and retakes. Checks what reaches the file.
+// Quiz800 at the grain of the whole test: a clean run to the end with its "Finished" box, when a
+// drill counts, breaking off and resuming, closing the window, and retakes. Checks what reaches
+// the file.
 
 #include "core/button_menu.h"
 #include "core/progress_file.h"
 #include "core/run_journal.h"
 #include "quiz800_screen.h"
+#include "review/item_scoring.h"
 #include "review/review_test.h"
 #include "tests/support/faulty_files.h"
 
 #include <QFile>
+#include <QProgressBar>
 #include <QRadioButton>
 
 namespace tessera {
@@ -64,9 +67,30 @@ private Q_SLOTS:
     }
     void cleanup() { f.reset(); }
 
-    void cleanRunEndsWithThePassedMessageAndALogEntry() {
+    void cleanRunScoresEveryItemAndEndsWithThePassedMessageAndALogEntry() {
         auto quiz = open(2);
-        answerThrough(*quiz, 3);
+        for (int position = 1; position <= 3; ++position) {
+            const char letter = static_cast<char>('A' + quiz->right());
+            quiz->answerRight();
+            QCOMPARE(quiz->label("Label2"), QStringLiteral("<%1> is the best choice.").arg(letter));
+            QCOMPARE(quiz->labelColour("Label2"), int(RightColour));
+            QVERIFY(quiz->documentText().contains(QStringLiteral("Explanation")));
+            QCOMPARE(quiz->button(7)->text(), QStringLiteral("&Break"));
+            QVERIFY(!quiz->button(5)->isEnabled());
+            QCOMPARE(quiz->button(11)->isEnabled(), position > 1);
+            QCOMPARE(quiz->button(6)->text(),
+                     position == 3 ? QStringLiteral("&Done") : QStringLiteral("&Next"));
+            if (position < 3)
+                quiz->next();
+        }
+        QCOMPARE(quiz->screen().findChild<QProgressBar*>()->value(), 100);
+        const QStringList panel = {quiz->label("Label3"), quiz->label("Label4"),
+                                   quiz->label("Label5"), quiz->label("Label6")};
+        QCOMPARE(panel.join(u'|'), QStringLiteral("Right: 3|Wrong: 0|Tries: 3|100.0%"));
+        QCOMPARE(quiz->labelColour("Label6"), int(PassingColour));
+        QVERIFY(quiz->screen()
+                    .findChild<QLabel*>(QStringLiteral("HandShake"))
+                    ->isVisibleTo(&quiz->screen()));
         f->dialogs.answer(MessageAnswer::Ok);
         quiz->next();
         QCOMPARE(f->dialogs.messages().size(), size_t{1});
