@@ -19,16 +19,9 @@ DateValue FakeClock::now() const {
 }
 
 bool FakeClock::setTimeOfDay(int hours, int minutes, int seconds) {
-    if (m_refuse)
-        return false;
     m_timesSet.push_back({hours, minutes, seconds});
     m_seconds = hours * 3600 + minutes * 60 + seconds;
     return true;
-}
-
-void FakeClock::setNow(DateValue value) {
-    m_day = std::floor(value);
-    m_seconds = (value - m_day) * SecondsPerDay;
 }
 
 void FakeClock::setDateTime(int year, int month, int day, int hours, int minutes, double seconds) {

@@ -24,19 +24,15 @@ public:
     double secondsSinceMidnight() const override { return m_seconds; }
     bool setTimeOfDay(int hours, int minutes, int seconds) override;
 
-    void setNow(DateValue value);
     void setDateTime(int year, int month, int day, int hours, int minutes, double seconds);
     // Moves on by whole days past midnight, as the real clock does.
     void advanceSeconds(double seconds);
-    // Makes setTimeOfDay fail as a system without the right to set the time would.
-    void refuseSettingTime(bool refuse) { m_refuse = refuse; }
     const std::vector<TimeOfDay>& timesSet() const { return m_timesSet; }
 
 private:
     // Kept apart so that seconds added up stay exact, which a date value would not.
     DateValue m_day = 0;
     double m_seconds = 0;
-    bool m_refuse = false;
     std::vector<TimeOfDay> m_timesSet;
 };
 

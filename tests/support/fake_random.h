@@ -12,8 +12,6 @@ namespace tessera {
 
 class FakeRandom final : public Random {
 public:
-    explicit FakeRandom(uint32_t seedValue = 1) : m_engine(seedValue) {}
-
     double next() override;
     void seed(uint32_t value) override;
 
@@ -23,7 +21,7 @@ public:
     const std::vector<uint32_t>& seeds() const { return m_seeds; }
 
 private:
-    std::mt19937 m_engine;
+    std::mt19937 m_engine{1};
     std::deque<double> m_script;
     std::vector<uint32_t> m_seeds;
     int m_calls = 0;

@@ -13,6 +13,21 @@ constexpr std::array<char, 24> Letters = {'A', 'B', 'C', 'D', 'E', 'F', 'G', 'H'
                                           'R', 'S', 'T', 'U', 'V', 'W', 'Y', 'Z'};
 constexpr int TermsPerLetter = GlossaryEntryCount / static_cast<int>(Letters.size());
 
+// The right letter of the item with this ordinal: A, B, C, D, A, ...
+char KeyLetter(int ordinal) {
+    return static_cast<char>('A' + (ordinal - 1) % 4);
+}
+
+// The term at list position p (from 1) of the glossary.
+std::string SmallCourseTerm(int position) {
+    const int index =
+        std::min((position - 1) / TermsPerLetter, static_cast<int>(Letters.size()) - 1);
+    char term[32];
+    std::snprintf(term, sizeof term, "%cterm %03d", Letters[index],
+                  position - index * TermsPerLetter);
+    return term;
+}
+
 std::string Item(int header, int ordinal) {
     char head[32];
     std::snprintf(head, sizeof head, "\\par %02d%03d%c", header, ordinal, KeyLetter(ordinal));
@@ -34,19 +49,6 @@ void FillItems(CourseContent& c, int column, const std::vector<int>& counts,
 }
 
 } // namespace
-
-char KeyLetter(int ordinal) {
-    return static_cast<char>('A' + (ordinal - 1) % 4);
-}
-
-std::string SmallCourseTerm(int position) {
-    const int index =
-        std::min((position - 1) / TermsPerLetter, static_cast<int>(Letters.size()) - 1);
-    char term[32];
-    std::snprintf(term, sizeof term, "%cterm %03d", Letters[index],
-                  position - index * TermsPerLetter);
-    return term;
-}
 
 void FillSmallCourse(SessionState& state, const std::vector<int>& topicCounts,
                      const std::vector<int>& examCounts) {

@@ -11,19 +11,12 @@ namespace tessera {
 
 // Review items of topics 1 to 9, and items of Exam I and Exam II, unless a test asks otherwise.
 inline const std::vector<int> SmallTopicCounts = {4, 3, 5, 2, 2, 2, 2, 2, 3};
-inline const std::vector<int> SmallExamCounts = {6, 5};
-
-// The right letter of the item with this ordinal in its topic or exam: A, B, C, D, A, ...
-char KeyLetter(int ordinal);
-
-// The term at list position p (from 1) of the glossary.
-std::string SmallCourseTerm(int position);
 
 // Fills the catalogue and the course into the session. Item t.j reads "Question t.j" with the
 // answers "one" to "four" and "Explanation t.j"; help text k reads "Help text k", discussion k
 // "Discussion k: read it twice.", glossary entry p "Meaning number p." (entry 700 also holds
 // "a hidden needle").
 void FillSmallCourse(SessionState& state, const std::vector<int>& topicCounts = SmallTopicCounts,
-                     const std::vector<int>& examCounts = SmallExamCounts);
+                     const std::vector<int>& examCounts = {6, 5});
 
 } // namespace tessera

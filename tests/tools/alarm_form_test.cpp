@@ -4,7 +4,6 @@
 #include "tests/support/screen_fixture.h"
 #include "tools/alarm_form.h"
 
-#include <QGroupBox>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -50,22 +49,15 @@ private Q_SLOTS:
         f.reset();
     }
 
-    void opensWithNoAlarm() {
-        QCOMPARE(form->windowTitle(), QStringLiteral("Alarm Clock"));
+    void setAlarmPromptsUntilAUsableTime() {
+        // No alarm at first: no time shown, and the minimized title cannot show it.
         QVERIFY(form->Label1->text().isEmpty());
         QVERIFY(form->Image1->isHidden());
         QVERIFY(form->Option1[0]->isChecked());
         QVERIFY(!form->Option1[1]->isEnabled());
         QCOMPARE(form->List1->count(), 60);
-        QCOMPARE(form->List1->currentRow(), 0);
-        QCOMPARE(form->List1->item(59)->text(), QStringLiteral("600 min."));
-        QCOMPARE(form->Frame2->title(), QStringLiteral("Set alarm to sound in:"));
-        QCOMPARE(form->Command1[3]->text(), QStringLiteral("Auto&Set"));
-        QVERIFY(form->Timer1->isActive());
         QCOMPARE(form->Timer1->interval(), 300);
-    }
 
-    void setAlarmPromptsUntilAUsableTime() {
         std::vector<bool> ticking;
         f->dialogs.whileOpen([&] { ticking.push_back(form->Timer1->isActive()); });
         for (const char* typed : {"25:00", "2:00", "14:00", "4:00 PM"})

