@@ -75,7 +75,7 @@ INSTANTIATE_TEST_SUITE_P(
         KeyCase{"ClearTwiceClearsAll", "5+3" + Escape + Escape + "2=", "2.", ""},
         KeyCase{"FifteenDigitsCarry", "1/3=X3=", "0.999999999999999", ""},
         KeyCase{"RecallMidEntryThenADigit", "12" + MemoryAdd + Escape + "3" + MemoryRecall + "5",
-                "15.", ""},
+                "15.", "", "Mem:  12"},
         KeyCase{"MemoryRecallOfZeroKeepsTheEntry", "8" + MemoryAdd + MemorySubtract + MemoryRecall,
                 "8.", ""},
         // Memory keys leave the entry open; a clear starts the next one.
