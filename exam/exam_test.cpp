@@ -2,6 +2,7 @@
 
 #include "core/picture_window.h"
 #include "core/run_journal.h"
+#include "core/screen_colours.h"
 #include "core/screen_text.h"
 #include "core/session_state.h"
 #include "exam/exam_end.h"
@@ -147,7 +148,8 @@ void ExamTest::showSession() {
     showLists();
     Label1[0]->setText(Text(m_session.answerLabel()));
     Label1[1]->setText(Text(m_session.timeLabel()));
-    Label1[1]->setStyleSheet(m_session.timeLabelRed() ? QStringLiteral("color: #ff0000;")
+    const QColor red = ReadableOn(ColourOf(0x0000FF), Label1[1]->palette().color(QPalette::Window));
+    Label1[1]->setStyleSheet(m_session.timeLabelRed() ? QStringLiteral("color: %1;").arg(red.name())
                                                       : QString());
     ProgressBar1->setValue(m_session.progress());
     showItemText();

@@ -116,8 +116,9 @@ QWidget* ExamTest::buildSidePanel() {
     auto* side = new QVBoxLayout(panel);
     side->setContentsMargins(0, 0, 0, 0);
 
-    Frame1 = new QGroupBox;
-    NameControl(Frame1, "Frame1", -1, QStringLiteral("Answered and remaining items"));
+    // Its title, the counts, comes with the first showing; it is spoken as it stands.
+    Frame1 = new QGroupBox(QStringLiteral("Answered and remaining items"));
+    NameControl(Frame1, "Frame1", -1, Frame1->title());
     auto* lists = new QGridLayout(Frame1);
     const std::array<QString, 2> headings{QStringLiteral("Answered"), QStringLiteral("Remaining")};
     for (int i = 0; i < 2; ++i) {

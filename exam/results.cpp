@@ -44,7 +44,7 @@ Results::Results(ScreenContext& context) : m_context(context) {
     }
     Command1[0]->setEnabled(s.ExamScrambled);
     Command1[1]->setEnabled(!s.PrinterProblem);
-    resize(780, 560);
+    resize(780, 540);
 }
 
 void Results::buildControls() {

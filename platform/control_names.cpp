@@ -11,8 +11,9 @@ namespace {
 bool ShowsItsCaption(const QWidget* control) {
     if (const auto* label = qobject_cast<const QLabel*>(control))
         return label->pixmap().isNull();
-    return qobject_cast<const QAbstractButton*>(control) != nullptr ||
-           qobject_cast<const QGroupBox*>(control) != nullptr;
+    if (const auto* frame = qobject_cast<const QGroupBox*>(control))
+        return !frame->title().isEmpty();
+    return qobject_cast<const QAbstractButton*>(control) != nullptr;
 }
 
 } // namespace

@@ -98,8 +98,10 @@ void Navigator::buildControls() {
     QWidget::setTabOrder(Command1[1], Command1[2]);
     // Wide enough for a date in each figure column beside the chart, where the display allows;
     // on a small display the chart goes under the table.
+    // The window frame takes some of the display.
     const QSize display =
-        screen() != nullptr ? screen()->availableGeometry().size() : QSize(WideLayout, 600);
+        (screen() != nullptr ? screen()->availableGeometry().size() : QSize(WideLayout, 600)) -
+        QSize(20, 60);
     resize(display.width() >= WideLayout ? QSize(WideLayout, 460)
                                          : QSize(display.width(), std::min(display.height(), 600)));
 }

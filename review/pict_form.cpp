@@ -22,6 +22,7 @@ PictForm::PictForm(QWidget* parent) : QWidget(parent, Qt::Window), Image1(new QL
     setAttribute(Qt::WA_ShowWithoutActivating);
     setWindowFlag(Qt::WindowDoesNotAcceptFocus);
     Image1->setObjectName(QStringLiteral("Image1"));
+    Image1->setAccessibleName(QStringLiteral("Picture for the item"));
     // ReSize1: the image follows the window's size.
     Image1->setScaledContents(true);
     Image1->setMinimumSize(1, 1);

@@ -1,5 +1,6 @@
 #include "tools/alarm_form.h"
 
+#include "core/screen_colours.h"
 #include "core/screen_text.h"
 #include "platform/clock.h"
 #include "platform/control_names.h"
@@ -226,9 +227,7 @@ void AlarmForm::buildControls() {
     setting.setPointSizeF(setting.pointSizeF() * 1.4);
     Label1->setFont(setting);
     // The setting in the bell's colour family, so it never reads as the time now.
-    QPalette alarmInk = Label1->palette();
-    alarmInk.setColor(QPalette::WindowText, QColor(150, 60, 0));
-    Label1->setPalette(alarmInk);
+    SetTextColour(Label1, 0x003C96);
 
     Frame2 = new QGroupBox(QStringLiteral("Set alarm to sound in:"), this);
     Frame2->setObjectName(QStringLiteral("Frame2"));

@@ -41,7 +41,9 @@ void Viewing::buildControls() {
 
     List1 = new QListWidget;
     NameControl(List1, "List1", -1, QStringLiteral("Terms"));
-    List1->setMinimumSize(6750 / TwipsPerPixel, 3700 / TwipsPerPixel);
+    // Its designed height is what the window gives it at the opening size; on a small display
+    // it yields some, so that the glossary still fits.
+    List1->setMinimumSize(6750 / TwipsPerPixel, 3700 / TwipsPerPixel / 2);
 
     const std::array<const char*, 7> captions = {"&Print",     "N&otebook", "&Done", "&Help",
                                                  "&Find Next", "&Cancel",   "&Find"};

@@ -1,11 +1,15 @@
-// Renders every registered entry to <build>/gallery/<name>.png. An argument limits the run to
-// the entries whose names contain it.
+// Renders every registered entry to <build>/gallery/<look>/<name>.png and checks each screen as
+// it stands (see gallery_checks.h). "--look scale2" renders at twice the size, "--look dark"
+// under a dark palette; another argument limits the run to the entries whose names contain it.
 
 #include "tests/gallery/gallery.h"
+#include "tests/gallery/gallery_checks.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QPalette>
 #include <QPixmap>
+#include <QStyleFactory>
 #include <QTest>
 #include <QWidget>
 
@@ -23,7 +27,32 @@ std::map<QString, GalleryBuild>& entries() {
     return registered;
 }
 
-bool render(const QString& name, const GalleryBuild& build, const QDir& output) {
+// A dark desktop theme as Qt's own style draws it.
+void UseDarkPalette() {
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QPalette dark;
+    const QColor window(45, 45, 48);
+    const QColor base(30, 30, 32);
+    const QColor text(230, 230, 230);
+    dark.setColor(QPalette::Window, window);
+    dark.setColor(QPalette::WindowText, text);
+    dark.setColor(QPalette::Base, base);
+    dark.setColor(QPalette::AlternateBase, window);
+    dark.setColor(QPalette::Text, text);
+    dark.setColor(QPalette::Button, window);
+    dark.setColor(QPalette::ButtonText, text);
+    dark.setColor(QPalette::ToolTipBase, base);
+    dark.setColor(QPalette::ToolTipText, text);
+    dark.setColor(QPalette::PlaceholderText, QColor(160, 160, 160));
+    dark.setColor(QPalette::Highlight, QColor(42, 130, 218));
+    dark.setColor(QPalette::HighlightedText, Qt::white);
+    dark.setColor(QPalette::Disabled, QPalette::WindowText, QColor(140, 140, 140));
+    dark.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(140, 140, 140));
+    dark.setColor(QPalette::Disabled, QPalette::Text, QColor(140, 140, 140));
+    QApplication::setPalette(dark);
+}
+
+bool render(const QString& name, const GalleryBuild& build, const QDir& output, GalleryLook look) {
     GalleryScene scene;
     const std::unique_ptr<QWidget> screen(build(scene));
     if (!screen) {
@@ -36,13 +65,16 @@ bool render(const QString& name, const GalleryBuild& build, const QDir& output) 
         return false;
     }
     QCoreApplication::processEvents();
+    const QStringList faults = ScreenFaults(*screen, look);
+    for (const QString& fault : faults)
+        std::fprintf(stderr, "%s: %s\n", qPrintable(name), qPrintable(fault));
     const QString file = output.filePath(name + QStringLiteral(".png"));
     if (!screen->grab().save(file)) {
         std::fprintf(stderr, "%s: could not write %s\n", qPrintable(name), qPrintable(file));
         return false;
     }
     std::printf("%s\n", qPrintable(file));
-    return true;
+    return faults.isEmpty();
 }
 
 } // namespace
@@ -54,11 +86,32 @@ GalleryEntry::GalleryEntry(const char* name, GalleryBuild build) {
 } // namespace tessera
 
 int main(int argc, char* argv[]) {
+    QString lookName = QStringLiteral("plain");
+    QString only;
+    for (int i = 1; i < argc; ++i) {
+        const QString argument = QString::fromLocal8Bit(argv[i]);
+        if (argument == QStringLiteral("--look") && i + 1 < argc)
+            lookName = QString::fromLocal8Bit(argv[++i]);
+        else
+            only = argument;
+    }
+    const std::map<QString, tessera::GalleryLook> looks = {
+        {QStringLiteral("plain"), tessera::GalleryLook::Plain},
+        {QStringLiteral("scale2"), tessera::GalleryLook::Scale2},
+        {QStringLiteral("dark"), tessera::GalleryLook::Dark}};
+    if (!looks.contains(lookName)) {
+        std::fprintf(stderr, "no look %s: plain, scale2 or dark\n", qPrintable(lookName));
+        return 1;
+    }
+    const tessera::GalleryLook look = looks.at(lookName);
+    if (look == tessera::GalleryLook::Scale2)
+        qputenv("QT_SCALE_FACTOR", "2");
     QApplication application(argc, argv);
-    const QString only = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QString();
-    QDir output(QStringLiteral(TESSERA_GALLERY_DIR));
+    if (look == tessera::GalleryLook::Dark)
+        tessera::UseDarkPalette();
+    QDir output(QStringLiteral(TESSERA_GALLERY_DIR) + QLatin1Char('/') + lookName);
     if (!output.mkpath(QStringLiteral("."))) {
-        std::fprintf(stderr, "cannot create %s\n", TESSERA_GALLERY_DIR);
+        std::fprintf(stderr, "cannot create %s\n", qPrintable(output.path()));
         return 1;
     }
     int failures = 0;
@@ -67,7 +120,7 @@ int main(int argc, char* argv[]) {
         if (!only.isEmpty() && !name.contains(only))
             continue;
         ++rendered;
-        if (!tessera::render(name, build, output))
+        if (!tessera::render(name, build, output, look))
             ++failures;
     }
     std::printf("%d screens rendered, %d failed\n", rendered - failures, failures);
