@@ -1,7 +1,5 @@
 #include "tests/support/recording_screens.h"
 
-#include <algorithm>
-
 namespace tessera {
 
 QWidget* RecordingScreenHost::load(ScreenName name) {
@@ -20,12 +18,11 @@ void RecordingScreenHost::showModal(ScreenName name) {
 
 void RecordingScreenHost::unload(ScreenName name) {
     m_calls.push_back({ScreenCallKind::Unload, name});
-    std::erase_if(m_placed, [name](const auto& entry) { return entry.first == name; });
+    m_placed.erase(name);
 }
 
 QWidget* RecordingScreenHost::find(ScreenName name) const {
-    const auto found = std::find_if(m_placed.begin(), m_placed.end(),
-                                    [name](const auto& entry) { return entry.first == name; });
+    const auto found = m_placed.find(name);
     return found == m_placed.end() ? nullptr : found->second;
 }
 
@@ -34,8 +31,7 @@ void RecordingScreenHost::endProgram() {
 }
 
 void RecordingScreenHost::place(ScreenName name, QWidget* screen) {
-    std::erase_if(m_placed, [name](const auto& entry) { return entry.first == name; });
-    m_placed.emplace_back(name, screen);
+    m_placed[name] = screen;
 }
 
 } // namespace tessera

@@ -3,6 +3,7 @@
 
 #include "core/screen_host.h"
 
+#include <map>
 #include <set>
 #include <vector>
 
@@ -38,7 +39,7 @@ public:
 private:
     std::vector<ScreenCall> m_calls;
     std::set<ScreenName> m_missing;
-    std::vector<std::pair<ScreenName, QWidget*>> m_placed;
+    std::map<ScreenName, QWidget*> m_placed;
     bool m_ended = false;
 };
 

@@ -5,16 +5,9 @@ namespace tessera {
 namespace {
 
 MessageAnswer unscriptedAnswer(MessageButtons buttons) {
-    switch (buttons) {
-    case MessageButtons::Ok:
+    if (buttons == MessageButtons::Ok)
         return MessageAnswer::Ok;
-    case MessageButtons::OkCancel:
-    case MessageButtons::YesNoCancel:
-        return MessageAnswer::Cancel;
-    case MessageButtons::YesNo:
-        break;
-    }
-    return MessageAnswer::Yes;
+    return buttons == MessageButtons::YesNo ? MessageAnswer::Yes : MessageAnswer::Cancel;
 }
 
 } // namespace
