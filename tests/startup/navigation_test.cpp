@@ -16,59 +16,32 @@ struct NavigationCase {
     int examType; // of a suspended exam; 0: none
     CaptionState review;
     CaptionState exam;
-    const char* topicFive; // the Financing button's caption; nullptr: the buttons are left
+    const char* topicFive; // the Financing button's drill; nullptr: the buttons are left
     bool reviewCard;
     bool examCard;
 };
 
 const CaptionState Review{"Topic &Review Test", true};
 const CaptionState Exam{"&Screening Exam", true};
+const CaptionState ReviewsDone{"All Topics Reviewed Three Times", false};
+const CaptionState ExamsDone{"All Exams Taken Three Times", false};
+const CaptionState ResumeTest{"Resume Topic 3 &Review, All Items", true};
+const CaptionState ResumeRetake{"Resume &Screening Exam, Retake Missed Items", true};
+const CaptionState ResumeCustom{"Resume &Screening Exam, Custom Built", true};
 
 TEST(Navigation, CaptionsAndEnablingFollowTheCountersAndWhatIsSuspended) {
     const NavigationCase cases[] = {
-        {"000000000000", 0, 0, 0, Review, Exam, "Financing Real Estate - 1st Drill", true, true},
-        {"000010000000", 0, 0, 0, Review, Exam, "Financing Real Estate - 2nd Drill", true, true},
-        {"000020000000", 0, 0, 0, Review, Exam, "Financing Real Estate - Last Drill", true, true},
-        {"000030000000", 0, 0, 0, Review, Exam, "Financing Real Estate - Finished", true, true},
-        {"000070000000", 0, 0, 0, Review, Exam, "Financing Real Estate - Finished", true, true},
-        {"333333332332", 0, 0, 0, Review, Exam, "Financing Real Estate - Finished", true, true},
-        {"333333333332",
-         0,
-         0,
-         0,
-         {"All Topics Reviewed Three Times", false},
-         Exam,
-         nullptr,
-         true,
-         true},
-        {"000000000333",
-         0,
-         0,
-         0,
-         Review,
-         {"All Exams Taken Three Times", false},
-         "Financing Real Estate - 1st Drill",
-         true,
-         true},
+        {"000000000000", 0, 0, 0, Review, Exam, "1st Drill", true, true},
+        {"000010000000", 0, 0, 0, Review, Exam, "2nd Drill", true, true},
+        {"000020000000", 0, 0, 0, Review, Exam, "Last Drill", true, true},
+        {"000030000000", 0, 0, 0, Review, Exam, "Finished", true, true},
+        {"000070000000", 0, 0, 0, Review, Exam, "Finished", true, true},
+        {"333333332332", 0, 0, 0, Review, Exam, "Finished", true, true},
+        {"333333333332", 0, 0, 0, ReviewsDone, Exam, nullptr, true, true},
+        {"000000000333", 0, 0, 0, Review, ExamsDone, "1st Drill", true, true},
         // A suspended test outranks the finished course, and locks its report card.
-        {"333333333000",
-         3,
-         1,
-         5,
-         {"Resume Topic 3 &Review, All Items", true},
-         {"Resume &Screening Exam, Retake Missed Items", true},
-         nullptr,
-         false,
-         false},
-        {"000000000000",
-         0,
-         0,
-         3,
-         Review,
-         {"Resume &Screening Exam, Custom Built", true},
-         "Financing Real Estate - 1st Drill",
-         true,
-         false},
+        {"333333333000", 3, 1, 5, ResumeTest, ResumeRetake, nullptr, false, false},
+        {"000000000000", 0, 0, 3, Review, ResumeCustom, "1st Drill", true, false},
     };
     for (const NavigationCase& c : cases) {
         SessionState state;
@@ -90,7 +63,7 @@ TEST(Navigation, CaptionsAndEnablingFollowTheCountersAndWhatIsSuspended) {
         ASSERT_EQ(view.topics.has_value(), c.topicFive != nullptr);
         if (!view.topics)
             continue;
-        EXPECT_EQ((*view.topics)[4].caption, c.topicFive);
+        EXPECT_EQ((*view.topics)[4].caption, std::string("Financing Real Estate - ") + c.topicFive);
         for (int topic = 1; topic <= TopicCount; ++topic)
             EXPECT_EQ((*view.topics)[topic - 1].enabled, state.TakeCounts[topic] < 3) << topic;
     }
