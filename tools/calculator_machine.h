@@ -61,9 +61,7 @@ public:
     const std::string& memoryLine() const { return m_memoryLine; }
     LastInputKind lastInput() const { return m_lastInput; }
     const std::string& pendingOperator() const { return m_pendingOperator; }
-    int operandCount() const { return m_operandCount; }
     int clearPresses() const { return m_clearPresses; }
-    double memoryValue() const { return m_kept.MemoryValue; }
     const CalculatorKept& kept() const { return m_kept; }
 
 private:
