@@ -234,8 +234,10 @@ void ReportCard::Retake() {
 }
 
 void ReportCard::print() {
+    // Cancel or a failing printer ends the command where it stands.
     const int row = List1->currentRow();
-    printRows();
+    if (!printRows())
+        return;
     List1->setCurrentRow(row);
     Command1[DoneCommand]->setFocus();
 }

@@ -85,7 +85,8 @@ protected:
     virtual SaveStatus rewriteRows() = 0;
     // Sets up the session for a retake of the row with the chosen "Include" option.
     virtual void buildRetake(int row, int choice) = 0;
-    virtual void printRows() = 0;
+    // False when the dialog was cancelled or the printer failed.
+    virtual bool printRows() = 0;
 
     // Writes the erasures, if any, after asking; the question comes once, whatever the answer.
     void SaveChanges();

@@ -36,10 +36,10 @@ void PrintCopy(Printer& printer, const PrintedCard& card) {
 
 } // namespace
 
-void PrintCard(Printer& printer, const PrintedCard& card) {
+bool PrintCard(Printer& printer, const PrintedCard& card) {
     const auto choice = printer.showPrintDialog(PrintDialogKind::Table);
     if (!choice)
-        return;
+        return false;
     // An empty name is the system's fixed-pitch font, so that the columns line up whatever
     // font an earlier print left on the printer.
     printer.setFontName(card.fontName);
@@ -48,6 +48,7 @@ void PrintCard(Printer& printer, const PrintedCard& card) {
     for (int copy = 0; copy < choice->copies && printer.ok(); ++copy)
         PrintCopy(printer, card);
     printer.endDoc();
+    return printer.ok();
 }
 
 } // namespace tessera

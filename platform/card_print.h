@@ -26,7 +26,7 @@ struct PrintedCard {
 
 // Asks the print dialog for a table and prints the copies asked for as one job, each with its
 // own heads, rows and closing lines and a new page at its end. Cancel prints nothing; a failing
-// printer ends the command without a word.
-void PrintCard(Printer& printer, const PrintedCard& card);
+// printer ends the command without a word. True when every copy went to the printer.
+bool PrintCard(Printer& printer, const PrintedCard& card);
 
 } // namespace tessera

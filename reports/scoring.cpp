@@ -72,8 +72,9 @@ void Scoring::buildRetake(int row, int choice) {
     BuildExamRetake(m_context.state, at(row), static_cast<ExamRetake>(choice));
 }
 
-void Scoring::printRows() {
-    PrintCard(m_context.services.printer, ScoringPaper(m_rows, m_context.state.PrintFontName));
+bool Scoring::printRows() {
+    return PrintCard(m_context.services.printer,
+                     ScoringPaper(m_rows, m_context.state.PrintFontName));
 }
 
 } // namespace tessera

@@ -60,14 +60,14 @@ void QuizSumm::buildRetake(int row, int choice) {
     BuildCardRetake(m_context.state, at(row), static_cast<RetakeChoice>(choice));
 }
 
-void QuizSumm::printRows() {
+bool QuizSumm::printRows() {
     ReviewCardPrint card;
     card.caption = windowTitle();
     for (int i = 0; i < List1->count(); ++i)
         card.rows << List1->item(i)->text();
     card.totals = Label2->text();
     card.fontName = fromWindows1252(m_context.state.PrintFontName);
-    PrintReviewCard(m_context.services.printer, card);
+    return PrintReviewCard(m_context.services.printer, card);
 }
 
 } // namespace tessera

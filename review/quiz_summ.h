@@ -43,7 +43,7 @@ private:
     std::array<bool, 3> offeredChoices(int row) const override;
     SaveStatus rewriteRows() override;
     void buildRetake(int row, int choice) override;
-    void printRows() override;
+    bool printRows() override;
     const CardRow& at(int row) const { return m_rows[static_cast<size_t>(row - 1)]; }
 
     std::vector<CardRow> m_rows;

@@ -14,7 +14,7 @@ QString Blanks(int count) {
 
 } // namespace
 
-void PrintReviewCard(Printer& printer, const ReviewCardPrint& card) {
+bool PrintReviewCard(Printer& printer, const ReviewCardPrint& card) {
     PrintedCard paper;
     paper.caption = card.caption;
     paper.heads = {{QStringLiteral("Date") + Blanks(5) + QStringLiteral("Percent") + Blanks(2) +
@@ -32,7 +32,7 @@ void PrintReviewCard(Printer& printer, const ReviewCardPrint& card) {
     paper.closing = {{QString(65, QLatin1Char('-')), 18}, {card.totals, 18}};
     paper.pageLines = PageLines;
     paper.fontName = card.fontName;
-    PrintCard(printer, paper);
+    return PrintCard(printer, paper);
 }
 
 } // namespace tessera

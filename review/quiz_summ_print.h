@@ -16,7 +16,7 @@ struct ReviewCardPrint {
 };
 
 // Asks the print dialog for a table and prints the copies asked for as one job. Cancel prints
-// nothing; a failing printer ends the command without a word.
-void PrintReviewCard(Printer& printer, const ReviewCardPrint& card);
+// nothing; a failing printer ends the command without a word. True when it all printed.
+bool PrintReviewCard(Printer& printer, const ReviewCardPrint& card);
 
 } // namespace tessera

@@ -173,9 +173,14 @@ private Q_SLOTS:
         f->state.PrintFontName = "Courier New";
         open();
         select(7);
-        f->printer.dialogAnswer.reset(); // Cancel prints nothing
-        click(card->Command1[0]);
+        f->printer.dialogAnswer.reset(); // Cancel prints nothing and leaves the focus
+        card->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(card.get()));
+        card->List1->setFocus();
+        card->Command1[0]->click(); // as its access key would, the focus where it is
+        QCOMPARE(f->printer.dialogsShown.size(), size_t{1});
         QVERIFY(f->printer.lines.empty());
+        QTRY_COMPARE(QApplication::focusWidget(), card->List1);
         f->printer.dialogAnswer = PrintChoice{2, false};
         click(card->Command1[0]);
 
@@ -203,6 +208,7 @@ private Q_SLOTS:
         QCOMPARE(f->printer.pageText(3).front(), QString()); // the second copy
         QCOMPARE(lines.size(), size_t{2 * (61 + 5)});
         QCOMPARE(card->List1->currentRow(), 6);
+        QTRY_COMPARE(QApplication::focusWidget(), card->Command1[2]);
     }
 };
 
