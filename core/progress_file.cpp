@@ -63,7 +63,7 @@ bool FileLogEntry(ProgressHeader& header, const LogEntry& entry, DateValue today
 // holds it all.
 SaveResult SaveRecord(SessionState& state, const RecordBytes& record, int16_t& suspended, bool exam,
                       int counter, bool finished, DateValue today,
-                      const std::optional<LogEntry>& log) {
+                      const std::optional<LogEntry>& log, bool countTake = false) {
     ProgressImage file = ProgressImage::load();
     const int number = RecordToWrite(file, suspended, exam);
     file.write(number, record);
@@ -73,7 +73,8 @@ SaveResult SaveRecord(SessionState& state, const RecordBytes& record, int16_t& s
     const int16_t stays = finished ? 0 : static_cast<int16_t>(number);
     (exam ? header.SuspendedExamRecord : header.SuspendedTestRecord) = HeaderByte(stays);
     if (CounterInRange(counter))
-        header.TakeCounts[counter] = static_cast<uint8_t>(state.TakeCounts[counter]);
+        header.TakeCounts[counter] =
+            static_cast<uint8_t>(state.TakeCounts[counter] + (countTake ? 1 : 0));
     if (log)
         FileLogEntry(header, *log, today);
     file.write(1, EncodeHeader(header));
@@ -98,11 +99,12 @@ SaveResult SaveReviewTest(SessionState& state, bool finished, DateValue today,
     return result;
 }
 
-SaveResult SaveExam(SessionState& state, bool finished, DateValue today) {
+SaveResult SaveExam(SessionState& state, bool finished, DateValue today, const ExamFiling& filing) {
     ExamRecord& record = state.Buffers.exam;
     FillExamRecord(state, DateText(today), record);
-    const SaveResult result = SaveRecord(state, EncodeExam(record), state.SuspendedExamRecord, true,
-                                         state.ExamKind + 9, finished, today, std::nullopt);
+    const SaveResult result =
+        SaveRecord(state, EncodeExam(record), state.SuspendedExamRecord, true, state.ExamKind + 9,
+                   finished, today, filing.log, filing.countTake);
     if (finished && result.status != SaveStatus::FileFailed)
         state.ExamPosition = 0;
     return result;

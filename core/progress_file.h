@@ -50,10 +50,19 @@ struct SaveResult {
 SaveResult SaveReviewTest(SessionState& state, bool finished, DateValue today,
                           const std::optional<LogEntry>& log = std::nullopt);
 
+// What a finished exam files with its record: its log entry, and a take on its counter (the
+// counter byte goes up in the file; the session's count is the caller's to raise).
+struct ExamFiling {
+    std::optional<LogEntry> log;
+    bool countTake = false;
+};
+
 // Writes the exam in progress (scoring it, see FillExamRecord); a finished exam clears
 // SuspendedExamRecord and ExamPosition. The record number written is returned, since an exam
-// under 30% is removed again.
-SaveResult SaveExam(SessionState& state, bool finished, DateValue today);
+// under 30% is removed again. The filing goes in the same header write as the record, so that
+// a save that fails files none of it.
+SaveResult SaveExam(SessionState& state, bool finished, DateValue today,
+                    const ExamFiling& filing = {});
 
 // Writes a record as it stands as the suspended test or exam of its kind, as a break would;
 // start-up does so with the journal of a run that a crash broke off.

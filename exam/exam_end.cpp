@@ -1,6 +1,8 @@
 #include "exam/exam_end.h"
 
+#include "core/date_value.h"
 #include "core/progress_file.h"
+#include "core/records.h"
 #include "core/session_state.h"
 #include "exam/exam_format.h"
 #include "platform/dialogs.h"
@@ -38,7 +40,19 @@ ExamEndOutcome EndExam(SessionState& state, bool finished, int committedRows, Da
         state.ExamPosition = 0;
         return outcome;
     }
-    const SaveResult save = SaveExam(state, finished, today);
+    // A finished exam's log entry and take go into the file with its record, in one write.
+    const int counter = state.ExamKind + TopicCount;
+    ExamEndPlan plan;
+    ExamFiling filing;
+    if (finished) {
+        FillExamRecord(state, DateText(today), state.Buffers.exam); // scores it
+        plan = PlanExamEnd(state.ExamScore, state.ExamType, state.TakeCounts[counter],
+                           state.PassingGrade);
+        if (plan.log)
+            filing.log = LogEntry{counter, state.ExamScore};
+        filing.countTake = plan.countTake;
+    }
+    const SaveResult save = SaveExam(state, finished, today, filing);
     outcome.saved = save.status != SaveStatus::FileFailed;
     if (save.status == SaveStatus::SuspendedBeyondHeader) {
         TellBeyondHeader(dialogs);
@@ -50,12 +64,6 @@ ExamEndOutcome EndExam(SessionState& state, bool finished, int committedRows, Da
     if (!finished || !outcome.saved) {
         return outcome;
     }
-    const int counter = state.ExamKind + TopicCount;
-    const ExamEndPlan plan =
-        PlanExamEnd(state.ExamScore, state.ExamType, state.TakeCounts[counter], state.PassingGrade);
-    if (plan.log) {
-        AppendProgressLog(counter, state.ExamScore, today);
-    }
     if (plan.remove) {
         RemoveProgressRecord(state, save.recordNumber, today);
         outcome.removed = true;
@@ -64,11 +72,8 @@ ExamEndOutcome EndExam(SessionState& state, bool finished, int committedRows, Da
                                    " (less than 30%) of the questions correctly. Therefore, this "
                                    "exam has not been recorded on your Exam Report Card."),
             QStringLiteral("Sorry!"), MessageIcon::Question, MessageButtons::Ok);
-    } else if (plan.countTake) {
+    } else if (filing.countTake) {
         ++state.TakeCounts[counter];
-        ProgressHeader header = ReadProgressHeader();
-        header.TakeCounts[counter] = static_cast<uint8_t>(state.TakeCounts[counter]);
-        WriteProgressHeader(header);
     }
     outcome.showResults = true;
     return outcome;

@@ -68,7 +68,10 @@ std::vector<Operation> Operations() {
              SaveReviewTest(s, false, Today);
          }},
         {"SaveExam, broken off", ProgressFile, [](SessionState& s) { SaveExam(s, false, Today); }},
-        {"SaveExam, finished", ProgressFile, [](SessionState& s) { SaveExam(s, true, Today); }},
+        {"SaveExam, finished, logged and counted", ProgressFile,
+         [](SessionState& s) {
+             SaveExam(s, true, Today, {LogEntry{10, 0.8F}, true});
+         }},
         {"AppendProgressLog", ProgressFile,
          [](SessionState&) { AppendProgressLog(11, 0.5F, Today); }},
         {"SavePreferences", ProgressFile,

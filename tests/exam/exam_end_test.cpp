@@ -5,6 +5,7 @@
 #include "exam/exam_end.h"
 #include "exam/exam_session.h"
 #include "exam/results_summary.h"
+#include "tests/support/faulty_files.h"
 #include "tests/support/study_fixture.h"
 
 #include <gtest/gtest.h>
@@ -88,6 +89,30 @@ TEST_F(ExamEndTest, UncommittedAnswerCountsAsUnansweredAndTheTakeCounterRises) {
     EXPECT_EQ(header.SuspendedExamRecord, 0);
     EXPECT_EQ(ReadExamRecords().size(), 1u);
     EXPECT_EQ(refreshed, 1);
+}
+
+// The log entry and the take go with the record: a save that fails files none of them, and the
+// exam finished again files each once.
+TEST_F(ExamEndTest, AFailedSaveFilesNeitherLogNorTakeUntilTheExamIsFinishedAgain) {
+    Start(10);
+    Answer(9, 1);
+    {
+        FaultyFiles full(FaultyFiles::Fault::DiskFull, 1);
+        EXPECT_FALSE(Close(true).saved);
+    }
+    ProgressHeader header = ReadProgressHeader();
+    EXPECT_EQ(header.LogCodes[1], 0);
+    EXPECT_EQ(header.TakeCounts[10], 0);
+    EXPECT_EQ(state.TakeCounts[10], 0);
+    EXPECT_EQ(ProgressRecordCount(), 1);
+
+    EXPECT_TRUE(EndExam(state, true, 10, clock.now(), dialogs, {}).showResults);
+    header = ReadProgressHeader();
+    EXPECT_EQ(header.LogCodes[1], 10);
+    EXPECT_EQ(header.LogCodes[2], 0);
+    EXPECT_EQ(header.TakeCounts[10], 1);
+    EXPECT_EQ(state.TakeCounts[10], 1);
+    EXPECT_EQ(ReadExamRecords().size(), 1u);
 }
 
 TEST_F(ExamEndTest, BelowThirtyPercentIsRemovedButLoggedAndAReviewTestSurvives) {
