@@ -192,6 +192,11 @@ TEST(Records, ReviewTestGoesToItsRecordAndComesBack) {
                     restored.TestMisses[2], restored.TestTally[3], restored.WishesLeft[3]}),
               (Ints{6, 2, 3, 4, 404, 0, 2, 6, 1}));
     EXPECT_DOUBLE_EQ(restored.TestElapsed * MinutesPerDay, 90.0);
+    for (const int topic : {0, TopicCount + 1}) { // a topic no table holds leaves the current one
+        record.Topic = static_cast<uint8_t>(topic);
+        RestoreReviewTest(record, restored);
+        EXPECT_EQ(restored.CurrentTopic, 6) << topic;
+    }
 }
 
 TEST(Records, ExamSaveWipesUncommittedPositionsAndRestores) {
