@@ -61,8 +61,11 @@ bool JournalExam(SessionState& state, DateValue today) {
 }
 
 void DropJournal() {
-    if (Files().exists(JournalFile))
-        Files().remove(JournalFile);
+    if (!Files().exists(JournalFile) || Files().remove(JournalFile))
+        return;
+    // A journal the folder will not let go of is emptied: the next start reads it as cut off
+    // and replays nothing over the run that was saved.
+    WriteWhole(Files(), JournalFile, {});
 }
 
 Replayed ReplayJournal(SessionState& state, DateValue today) {

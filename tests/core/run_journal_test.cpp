@@ -3,6 +3,7 @@
 
 #include "core/progress_file.h"
 #include "core/run_journal.h"
+#include "tests/support/faulty_files.h"
 #include "tests/support/study_folder.h"
 
 #include <gtest/gtest.h>
@@ -94,6 +95,30 @@ TEST_P(RunJournalTest, WholeJournalsBecomeTheSuspendedRunAndOthersAreDropped) {
         EXPECT_EQ(later.TestPosition, 3);
         EXPECT_EQ(later.TestTally[3], 4);
     }
+}
+
+TEST(RunJournalDropTest, AJournalThatCannotBeRemovedIsEmptiedAndNothingIsReplayed) {
+    StudyFolder folder;
+    SessionState state;
+    FillCatalogue(state);
+    state.CurrentTopic = 4;
+    state.TestType = 1;
+    state.TestItemCount = 3;
+    state.TestItems = {0, 7, 8, 9};
+    state.TestPosition = 2;
+    WriteProgressHeader(ProgressHeader{});
+    ASSERT_TRUE(JournalReviewTest(state, Today));
+    SaveReviewTest(state, true, Today); // the run is finished and saved
+    const std::string saved = folder.read(ProgressFile);
+    {
+        FaultyFiles stuck(FaultyFiles::Fault::RemoveRefused, 0);
+        DropJournal();
+    }
+    SessionState next;
+    FillCatalogue(next);
+    RestoreSuspended(next);
+    EXPECT_EQ(ReplayJournal(next, Today), Replayed::Nothing);
+    EXPECT_EQ(folder.read(ProgressFile), saved);
 }
 
 INSTANTIATE_TEST_SUITE_P(

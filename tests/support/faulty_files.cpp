@@ -65,7 +65,7 @@ bool FaultyFiles::exists(const std::string& name) const {
 }
 
 bool FaultyFiles::remove(const std::string& name) {
-    return step() && m_real.remove(name);
+    return step() && m_fault != Fault::RemoveRefused && m_real.remove(name);
 }
 
 bool FaultyFiles::rename(const std::string& from, const std::string& to) {

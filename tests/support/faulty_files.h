@@ -1,6 +1,7 @@
 #pragma once
 // The real files of the test's folder with one fault at a chosen step: the machine stops there
-// (a crash), a write puts down only part of its bytes, or the disk is full from there on.
+// (a crash), a write puts down only part of its bytes, or the disk is full from there on; or no
+// file can be removed at all.
 
 #include "platform/file_system.h"
 
@@ -8,7 +9,7 @@ namespace tessera {
 
 class FaultyFiles final : public FileSystem {
 public:
-    enum class Fault { None, Crash, ShortWrite, DiskFull };
+    enum class Fault { None, Crash, ShortWrite, DiskFull, RemoveRefused };
 
     // A crash strikes at step `at`, 1-based, counting every write, flush, rename, removal and
     // new folder; a short write and a full disk strike at write `at`.
