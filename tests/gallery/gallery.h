@@ -35,4 +35,8 @@ struct GalleryEntry {
     GalleryEntry(const char* name, GalleryBuild build);
 };
 
+// The folder of this run's look, where its pictures and printed pages go; each look has its
+// own, so that the looks can render at the same time.
+QString GalleryFolder();
+
 } // namespace tessera

@@ -22,6 +22,11 @@ namespace tessera {
 
 namespace {
 
+QString& folder() {
+    static QString path;
+    return path;
+}
+
 std::map<QString, GalleryBuild>& entries() {
     static std::map<QString, GalleryBuild> registered;
     return registered;
@@ -79,6 +84,10 @@ bool render(const QString& name, const GalleryBuild& build, const QDir& output, 
 
 } // namespace
 
+QString GalleryFolder() {
+    return folder();
+}
+
 GalleryEntry::GalleryEntry(const char* name, GalleryBuild build) {
     entries().emplace(QString::fromLatin1(name), std::move(build));
 }
@@ -114,6 +123,7 @@ int main(int argc, char* argv[]) {
         std::fprintf(stderr, "cannot create %s\n", qPrintable(output.path()));
         return 1;
     }
+    tessera::folder() = output.path();
     int failures = 0;
     int rendered = 0;
     for (const auto& [name, build] : tessera::entries()) {

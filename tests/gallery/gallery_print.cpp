@@ -39,7 +39,7 @@ private:
 } // namespace
 
 QWidget* PrintedFirstPage(const QString& name, const std::function<void(Printer&)>& print) {
-    const QDir output(QStringLiteral(TESSERA_GALLERY_DIR));
+    const QDir output(GalleryFolder());
     const QString pdf = output.filePath(name + QStringLiteral(".pdf"));
     {
         PdfPrinter printer(pdf);
