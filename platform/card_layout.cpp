@@ -9,7 +9,11 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include <QEvent>
+#include <QPainter>
+
 #include <algorithm>
+#include <cstring>
 
 namespace tessera {
 
@@ -26,11 +30,46 @@ QGroupBox* MakeOptionFrame(const QString& caption, const char* array, const QStr
     return frame;
 }
 
+namespace {
+
+// The two lines of a head, each at its own start, drawn in place of the label's one-line caption.
+class HeadLines final : public QObject {
+public:
+    HeadLines(QLabel* label, const ColumnHead& head)
+        : QObject(label), m_label(label), m_head(head) {
+        label->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched != m_label || event->type() != QEvent::Paint)
+            return false;
+        QPainter painter(m_label);
+        painter.setFont(m_label->font());
+        painter.setPen(m_label->palette().color(m_label->foregroundRole()));
+        const QFontMetrics metrics(m_label->font());
+        const int start = std::min(m_head.upperStart, m_head.lowerStart);
+        const int blank = metrics.horizontalAdvance(QLatin1Char(' '));
+        painter.drawText((m_head.upperStart - start) * blank, metrics.ascent(),
+                         QLatin1String(m_head.upper));
+        painter.drawText((m_head.lowerStart - start) * blank,
+                         metrics.lineSpacing() + metrics.ascent(), QLatin1String(m_head.lower));
+        return true;
+    }
+
+private:
+    QLabel* m_label;
+    ColumnHead m_head;
+};
+
+} // namespace
+
 void SetColumnHead(QLabel* label, const ColumnHead& head) {
-    const int start = std::min(head.upperStart, head.lowerStart);
-    label->setText(QString(head.upperStart - start, QLatin1Char(' ')) + QLatin1String(head.upper) +
-                   QLatin1Char('\n') + QString(head.lowerStart - start, QLatin1Char(' ')) +
-                   QLatin1String(head.lower));
+    // The caption as given, for the screen reader and for anyone who asks the label; on screen
+    // its words stand over their columns in two lines.
+    const QString upper = QLatin1String(head.upper);
+    label->setText(upper.isEmpty() ? QLatin1String(head.lower)
+                                   : upper + QLatin1Char(' ') + QLatin1String(head.lower));
+    new HeadLines(label, head);
 }
 
 int ColumnOffset(const QListWidget* list, int column) {
@@ -40,13 +79,19 @@ int ColumnOffset(const QListWidget* list, int column) {
 
 void AlignColumnHeads(QWidget* strip, std::span<QLabel* const> labels,
                       std::span<const ColumnHead> heads, const QListWidget* list, int columns) {
-    int height = 0;
+    const QFontMetrics metrics(list->font());
+    const int height = 2 * metrics.lineSpacing();
+    const int blank = metrics.horizontalAdvance(QLatin1Char(' '));
     for (size_t i = 0; i < labels.size() && i < heads.size(); ++i) {
+        const ColumnHead& head = heads[i];
+        const int start = std::min(head.upperStart, head.lowerStart);
+        const int width =
+            std::max(head.upperStart - start + static_cast<int>(std::strlen(head.upper)),
+                     head.lowerStart - start + static_cast<int>(std::strlen(head.lower)));
         QLabel* label = labels[i];
         label->setFont(list->font());
-        label->adjustSize();
-        label->move(ColumnOffset(list, std::min(heads[i].upperStart, heads[i].lowerStart)), 0);
-        height = std::max(height, label->sizeHint().height());
+        label->setFixedSize(width * blank + 1, height);
+        label->move(ColumnOffset(list, start), 0);
     }
     strip->setFixedHeight(height);
     strip->setMinimumWidth(ColumnOffset(list, columns));

@@ -30,7 +30,8 @@ struct ColumnHead {
     const char* lower;
 };
 
-// The head's two lines in its label, each shifted to its own start.
+// The head's caption as given, upper and lower words as one; on screen the label shows its two
+// lines, each at its own start.
 void SetColumnHead(QLabel* label, const ColumnHead& head);
 
 // Moves each head's label, a child of `strip`, over its columns in the list's font, and gives

@@ -98,6 +98,13 @@ private Q_SLOTS:
     void listsEveryExamEarliestByTextAndSortsKeepingTheSelection() {
         writeThreeExamsAndTwoTests();
         open();
+        QStringList heads; // the captions as given, though each shows in two lines
+        for (int i : {0, 1, 2, 3, 4, 5, 6, 7, 11})
+            heads << card->Label1[static_cast<size_t>(i)]->text();
+        QCOMPARE(heads.join(QLatin1Char('|')),
+                 QStringLiteral("Date Taken|Percent Correct|Questions Asked|Number Answered|Unsure "
+                                "Answers|Scrambled Order|Allotted Time (min.)|Time Used "
+                                "(h:m:s)|Exam Title"));
         QCOMPARE(rows().size(), 3);
         QVERIFY(rows()[0].startsWith(QStringLiteral("Custom        01-05-2027  50.0%")));
         QVERIFY(rows()[1].startsWith(QStringLiteral("Exam II       11-02-2026  60.0%")));

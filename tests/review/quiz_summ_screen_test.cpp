@@ -82,6 +82,12 @@ private Q_SLOTS:
     void listsEveryReviewTestEarliestFirstAndSortsKeepingTheSelection() {
         writeTwoTestsAndTwoExams();
         open();
+        QStringList heads; // the captions as given, though each shows in two lines
+        for (QLabel* head : card->Label1)
+            heads << head->text();
+        QCOMPARE(heads.join(QLatin1Char('|')),
+                 QStringLiteral("Test Type|Date Taken|Percent Correct|Questions Asked|Wild "
+                                "Guesses|Tries Ratio|Scrambled Order|Time Used (h:m:s)"));
         const auto loaded = LoadCardRows(ReadReviewTestRecords());
         QCOMPARE(rows(), QStringList({QString::fromStdString(CardRowText(loaded[1])),
                                       QString::fromStdString(CardRowText(loaded[0]))}));
