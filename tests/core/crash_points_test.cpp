@@ -91,6 +91,11 @@ std::vector<Operation> Operations() {
          [](SessionState& s) { RemoveProgressRecord(s, 6, Today); }},
         {"Journal of a running test", JournalFile,
          [](SessionState& s) { JournalReviewTest(s, Today); }},
+        {"Journal replayed at the next start", ProgressFile,
+         [](SessionState& s) {
+             JournalReviewTest(s, Today);
+             ReplayJournal(s, Today);
+         }},
         {"NoteBook save", NoteBookFile,
          [](SessionState&) {
              RichTextView view;
@@ -144,6 +149,7 @@ private:
 
 private Q_SLOTS:
     void everyOperationSurvivesEveryCrashPoint() {
+        int tried = 0;
         for (const Operation& operation : Operations()) {
             SessionState state;
             prepare(state);
@@ -170,6 +176,7 @@ private Q_SLOTS:
                 faults.emplace_back(FaultyFiles::Fault::DiskFull, at);
             }
             for (const auto& [fault, at] : faults) {
+                ++tried;
                 const auto [progress, file] = runWith(operation, fault, at, nullptr, nullptr);
                 const QByteArray where = QByteArray(operation.name) + ", fault " +
                                          QByteArray::number(static_cast<int>(fault)) + " at " +
@@ -181,6 +188,8 @@ private Q_SLOTS:
                              where + ": a finished record lost");
             }
         }
+        qInfo("%zu operations, %d faults tried, no finished record lost", Operations().size(),
+              tried);
     }
 };
 
