@@ -1,6 +1,5 @@
-// Results: the figures (labels, rows, the sort into running order, the note of "&Done"), and
-// the printed exam (which items stand on which page and column, the heading of each page, the
-// note, the summary, and a copy after another in one job).
+// Results: the figures, the sort into running order, the note of "&Done", and the printed exam
+// (which items stand on which page and column, each page's heading, the note, the summary).
 
 #include "exam/exam_format.h"
 #include "exam/results_print.h"
@@ -15,7 +14,7 @@
 namespace tessera {
 namespace {
 
-TEST(ResultsSummary, CountsLabelsAndRowsOfAFourItemExam) {
+TEST(ResultsSummary, CountsLabelsRowsAndTheSortOfAFourItemExam) {
     SessionState state;
     FillSmallCourse(state);
     state.ExamKind = 3;
@@ -25,48 +24,39 @@ TEST(ResultsSummary, CountsLabelsAndRowsOfAFourItemExam) {
     state.ExamUnsure = {0, 0, 63, 63, 0}; // a mark without an answer does not count
     state.ExamElapsed = (3600 + 5 * 60 + 9) / 86400.0;
     const ResultsTally tally = CountResults(state);
-    EXPECT_EQ(state.ExamKey[3], 4);
-    EXPECT_EQ(tally.answered, 3);
-    EXPECT_EQ(tally.unsure, 1);
-    EXPECT_EQ(tally.missed, 1);
-    const auto lines = SummaryLines(tally, 4, state.ExamElapsed);
-    EXPECT_EQ(lines[0], "Answered         3");
-    EXPECT_EQ(lines[1], "Not Answered     1");
-    EXPECT_EQ(lines[2], "   Total         4");
-    EXPECT_EQ(lines[3], "Correct          3   75.0%");
-    EXPECT_EQ(lines[4], "Unsure           1   25.0%");
-    EXPECT_EQ(lines[5], "Time Used     1:05:09");
+    EXPECT_EQ(std::tuple(tally.answered, tally.unsure, tally.missed), std::tuple(3, 1, 1));
+    std::string lines;
+    for (const std::string& line : SummaryLines(tally, 4, state.ExamElapsed))
+        lines += line + "|";
+    EXPECT_EQ(lines,
+              "Answered         3|Not Answered     1|   Total         4|"
+              "Correct          3   75.0%|Unsure           1   25.0%|Time Used     1:05:09|");
     EXPECT_EQ(ResultRowText(3, 4, 0, false), "  3   D    ");
     EXPECT_EQ(ResultRowText(12, 2, 1, true), " 12   B    A?");
 
-    SortResults(state);
-    EXPECT_EQ((std::vector<int>{state.ExamItems[1], state.ExamItems[2], state.ExamItems[3],
-                                state.ExamItems[4]}),
-              (std::vector<int>{2, 4, 6, 8}));
-    EXPECT_EQ(state.ExamAnswers[4], 1); // item 8 keeps its answer, key and mark
-    EXPECT_EQ(state.ExamKey[2], 4);
-    EXPECT_EQ(state.ExamUnsure[1], 63);
-    EXPECT_EQ(state.ExamUnsure[2], 63);
+    SortResults(state); // each item keeps its answer, key and mark
+    std::string sorted;
+    for (int p = 1; p <= 4; ++p)
+        sorted += std::to_string(state.ExamItems[p]) + ":" + std::to_string(state.ExamAnswers[p]) +
+                  std::to_string(state.ExamKey[p]) + std::to_string(state.ExamUnsure[p]) + " ";
+    EXPECT_EQ(sorted, "2:2263 4:0463 6:220 8:110 ");
 }
 
 TEST(ResultsSummary, DoneNoteFollowsTheRuleOfThirty) {
-    const std::string kept = DoneQuestion(3.0f / 10.0f, "\r\n");
-    EXPECT_EQ(kept, "Note: You can review the results of this test later using the report card."
-                    "\r\nPress O.K. to stop viewing scoring results or Cancel to keep working.");
+    EXPECT_EQ(DoneQuestion(3.0f / 10.0f, "\r\n"),
+              "Note: You can review the results of this test later using the report card."
+              "\r\nPress O.K. to stop viewing scoring results or Cancel to keep working.");
     EXPECT_TRUE(DoneQuestion(20.0f / 67.0f, "\r\n")
                     .starts_with("Note: You scored less than 30% correct. Therefore, the "
                                  "results of this test have not been added to your report "
                                  "card.\r\n"));
-    EXPECT_EQ(ShortShareText(0.0), ".0%");
-    EXPECT_EQ(ShortShareText(0.05), "5.0%");
-    EXPECT_EQ(ShareText(0.0), "0.0%");
+    EXPECT_EQ(ShortShareText(0.0) + ShortShareText(0.05) + ShareText(0.0), ".0%5.0%0.0%");
 }
 
 // count items; every item answered unless a multiple of skipEvery; every fifth unsure.
 ResultsPrint Exam(int count, int skipEvery = 0) {
     ResultsPrint exam;
-    exam.title = "Screening Exam II";
-    exam.examName = "Screening Exam II";
+    exam.title = exam.examName = "Screening Exam II";
     exam.userName = "Pat Doe";
     exam.crLf = "\r\n";
     exam.now = 46345 + 13.5 / 24; // Thursday, November 19, 2026 at 1:30 PM
@@ -78,165 +68,92 @@ ResultsPrint Exam(int count, int skipEvery = 0) {
     return exam;
 }
 
-// The table rows of a page as their item numbers, left and right (0 for none).
-struct Page {
-    std::vector<std::pair<int, int>> rows;
-    bool continued = false; // the heading of a later page
-    bool summary = false;
-    bool note = false;
-};
-
-std::vector<Page> Pages(const RecordingPrinter& printer, int job = 1) {
+// Each page as its count of table rows, the item numbers of its first and last row (left/right,
+// 0 for none), and whether it has the "(cont.)" heading, the note and the summary.
+std::string Layout(const RecordingPrinter& printer) {
     static const QRegularExpression row(QStringLiteral("^  ( {0,3}\\d+) {7}.{11}.. {7}( *\\d+)?"));
-    std::vector<Page> pages;
-    for (int p = 1; !printer.pageText(p, job).empty(); ++p) {
-        Page page;
-        for (const QString& line : printer.pageText(p, job)) {
+    std::string pages;
+    for (int p = 1; !printer.pageText(p).empty(); ++p) {
+        std::vector<std::string> rows;
+        std::string marks;
+        for (const QString& line : printer.pageText(p)) {
             const auto match = row.match(line);
             if (match.hasMatch())
-                page.rows.emplace_back(match.captured(1).toInt(), match.captured(2).toInt());
-            page.continued =
-                page.continued || line == QStringLiteral("     Screening Exam II  (cont.)");
-            page.summary = page.summary || line == QStringLiteral("     Scoring Summary");
-            page.note = page.note || line.startsWith(QStringLiteral("Note: "));
+                rows.push_back(std::to_string(match.captured(1).toInt()) + "/" +
+                               std::to_string(match.captured(2).toInt()));
+            if (line == QStringLiteral("     Screening Exam II  (cont.)"))
+                marks += " cont";
+            if (line.startsWith(QStringLiteral("Note: ")))
+                marks += " note";
+            if (line == QStringLiteral("     Scoring Summary"))
+                marks += " summary";
         }
-        pages.push_back(page);
+        pages += (p > 1 ? " | " : "") + std::to_string(rows.size()) +
+                 (rows.empty() ? "" : " " + rows.front() + ".." + rows.back()) + marks;
     }
     return pages;
 }
 
-struct PageCase {
-    int rows;
-    std::pair<int, int> first;
-    std::pair<int, int> last;
-    bool continued;
-    bool note;
-    bool summary;
-};
-
-struct LayoutCase {
-    const char* name;
-    int count;
-    int skipEvery;
-    std::vector<PageCase> pages;
-};
-
-class Layout : public ::testing::TestWithParam<LayoutCase> {};
-
-TEST_P(Layout, PutsEachItemOnItsPageAndColumn) {
-    const LayoutCase& c = GetParam();
-    RecordingPrinter printer;
-    ASSERT_TRUE(PrintResults(printer, Exam(c.count, c.skipEvery)));
-    const std::vector<Page> pages = Pages(printer);
-    ASSERT_EQ(pages.size(), c.pages.size());
-    int printed = 0;
-    for (std::size_t p = 0; p < pages.size(); ++p) {
-        const Page& page = pages[p];
-        const PageCase& expected = c.pages[p];
-        SCOPED_TRACE("page " + std::to_string(p + 1));
-        ASSERT_EQ(static_cast<int>(page.rows.size()), expected.rows);
-        if (expected.rows > 0) {
-            EXPECT_EQ(page.rows.front(), expected.first);
-            EXPECT_EQ(page.rows.back(), expected.last);
-        }
-        EXPECT_EQ(page.continued, expected.continued);
-        EXPECT_EQ(page.note, expected.note);
-        EXPECT_EQ(page.summary, expected.summary);
-        for (const auto& [left, right] : page.rows)
-            printed += 1 + (right != 0 ? 1 : 0);
+TEST(ResultsPrint, PutsEachItemOnItsPageAndColumn) {
+    const struct {
+        int count;
+        int skipEvery;
+        std::string layout;
+    } cases[] = {
+        {1, 0, "1 1/0..1/0 summary"},
+        {7, 3, "4 1/5..4/0 note summary"}, // an odd count leaves the last right column empty
+        {110, 0, "55 1/56..55/110 | 0 cont summary"},
+        {111, 0, "55 1/56..55/110 | 1 111/0..111/0 cont summary"},
+        {150, 0, "55 1/56..55/110 | 20 111/131..130/150 cont summary"},
+        {300, 7,
+         "55 1/56..55/110 | 55 111/166..165/220 cont | 40 221/261..260/300 cont note "
+         "summary"},
+        {105, 0, "53 1/54..53/0 | 0 summary"},         // the summary without room goes over
+        {104, 13, "52 1/53..52/104 note | 0 summary"}, // the note takes the last room
+        {104, 0, "52 1/53..52/104 summary"},
+    };
+    for (const auto& c : cases) {
+        RecordingPrinter printer;
+        ASSERT_TRUE(PrintResults(printer, Exam(c.count, c.skipEvery)));
+        EXPECT_EQ(Layout(printer), c.layout) << c.count;
+        EXPECT_EQ(printer.jobsEnded, 1);
     }
-    EXPECT_EQ(printed, c.count);
-    EXPECT_EQ(printer.jobsEnded, 1);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    ItemCounts, Layout,
-    ::testing::Values(
-        // rows, first row, last row, "(cont.)" heading, note, summary
-        LayoutCase{"OneItem", 1, 0, {{1, {1, 0}, {1, 0}, false, false, true}}},
-        LayoutCase{"OddCountLeavesTheLastRightColumnEmpty",
-                   7,
-                   3,
-                   {{4, {1, 5}, {4, 0}, false, true, true}}},
-        LayoutCase{"FullFirstPageLeavesHeadingAndSummary",
-                   110,
-                   0,
-                   {{55, {1, 56}, {55, 110}, false, false, false}, {0, {}, {}, true, false, true}}},
-        LayoutCase{"ItemOneHundredElevenAlone",
-                   111,
-                   0,
-                   {{55, {1, 56}, {55, 110}, false, false, false},
-                    {1, {111, 0}, {111, 0}, true, false, true}}},
-        LayoutCase{"SecondPageBalancesWhatIsLeft",
-                   150,
-                   0,
-                   {{55, {1, 56}, {55, 110}, false, false, false},
-                    {20, {111, 131}, {130, 150}, true, false, true}}},
-        LayoutCase{"ThreePages",
-                   300,
-                   7,
-                   {{55, {1, 56}, {55, 110}, false, false, false},
-                    {55, {111, 166}, {165, 220}, true, false, false},
-                    {40, {221, 261}, {260, 300}, true, true, true}}},
-        LayoutCase{"SummaryWithoutRoomGoesOver",
-                   105,
-                   0,
-                   {{53, {1, 54}, {53, 0}, false, false, false}, {0, {}, {}, false, false, true}}},
-        LayoutCase{"NoteTakesTheLastRoom",
-                   104,
-                   13,
-                   {{52, {1, 53}, {52, 104}, false, true, false}, {0, {}, {}, false, false, true}}},
-        LayoutCase{"EverythingAnsweredFitsBeside",
-                   104,
-                   0,
-                   {{52, {1, 53}, {52, 104}, false, false, true}}}),
-    [](const ::testing::TestParamInfo<LayoutCase>& info) { return std::string(info.param.name); });
-
-TEST(ResultsPrint, HeadingRowsNoteAndSummaryWordForWord) {
+TEST(ResultsPrint, HeadingRowsNoteAndSummaryWordForWordOnEachCopy) {
     RecordingPrinter printer;
     printer.dialogAnswer = PrintChoice{2, false};
     ResultsPrint exam = Exam(3, 2);
     exam.fontName = "Courier New";
     ASSERT_TRUE(PrintResults(printer, exam));
-    const std::vector<QString> expected = {
-        QStringLiteral("     Screening Exam II Results"),
-        QStringLiteral("     Pat Doe"),
-        QStringLiteral("     Thursday, November 19, 20261:30:00 PM"),
-        QString(),
-        QStringLiteral("          Correct     Your               Correct     Your     "),
-        QStringLiteral("  Item    Answer      Answer     Item    Answer      Answer   "),
-        QString(),
-        // Item 1 keyed B answered D, beside item 3 keyed D answered B.
-        QStringLiteral("     1       B          D           3       D          B "),
-        // Item 2, not answered, shows neither letter.
-        QStringLiteral("     2                           "),
-        QString(30, QLatin1Char('-')),
-        QStringLiteral("Note: Correct answer supplied only if question answered."),
-        QString(),
-        QStringLiteral("     Scoring Summary"),
-        QStringLiteral("  Answered"),
-        QStringLiteral("  Not Answered"),
-        QStringLiteral("     Total"),
-        QStringLiteral("  Correct"),
-        QStringLiteral("  Unsure"),
-        QStringLiteral("  Time Used"),
+    EXPECT_TRUE(std::ranges::all_of(printer.lines, [](const PrintedLine& line) {
+        return line.fontName == QStringLiteral("Courier New") && line.fontSize == 10;
+    }));
+    // A page as its lines at their columns; bold lines marked with '*'.
+    const auto page = [&printer](int p) {
+        QString text;
+        for (const PrintedLine& line : printer.lines) {
+            if (line.page == p)
+                text +=
+                    (line.bold ? u'*' : u' ') + QString(line.column - 1, u' ') + line.text + u'|';
+        }
+        return text;
     };
-    EXPECT_EQ(printer.pageText(1), expected);
-    // The second copy, in the same job, starts on a page of its own with the full heading.
-    EXPECT_EQ(printer.pageText(2), expected);
-    EXPECT_TRUE(printer.pageText(3).empty());
+    // The heading down to the column heads is bold, and the summary's caption. Item 1 keyed B
+    // answered D stands beside item 3 keyed D answered B; item 2, unanswered, shows neither.
+    const QString expected = QStringLiteral(
+        "*     Screening Exam II Results|*     Pat Doe|"
+        "*     Thursday, November 19, 20261:30:00 PM|*|"
+        "*          Correct     Your               Correct     Your     |"
+        "*  Item    Answer      Answer     Item    Answer      Answer   | |"
+        "      1       B          D           3       D          B |"
+        "      2                           | ------------------------------|"
+        " Note: Correct answer supplied only if question answered.| |*     Scoring Summary|"
+        "   Answered|   Not Answered|      Total|   Correct|   Unsure|   Time Used|");
+    EXPECT_EQ(page(1), expected);
+    EXPECT_EQ(page(2), expected); // the second copy starts on a page of its own
+    EXPECT_EQ(page(3), QString());
     EXPECT_EQ(printer.jobsEnded, 1);
-    std::vector<bool> bold;
-    for (const PrintedLine& line : printer.lines) {
-        EXPECT_EQ(line.fontName, QStringLiteral("Courier New"));
-        EXPECT_EQ(line.fontSize, 10);
-        if (line.page == 1)
-            bold.push_back(line.bold);
-    }
-    // The heading down to the column heads, and the summary's caption.
-    EXPECT_EQ(bold,
-              (std::vector<bool>{true, true, true, true, true, true, false, false, false, false,
-                                 false, false, true, false, false, false, false, false, false}));
 }
 
 TEST(ResultsPrint, CancelPrintsNothingAndAFailingPrinterStopsTheCopies) {
