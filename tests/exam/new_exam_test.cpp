@@ -13,100 +13,99 @@
 namespace tessera {
 namespace {
 
-class ExamSetFormTest : public ::testing::Test {
-protected:
-    void SetUp() override {
-        // Topic 1 has 90 items, topic 2 only 12; the exams 150 and 140.
-        FillSmallCourse(state, {90, 12, 100, 100, 100, 100, 100, 100, 94}, {150, 140});
-    }
-    SessionState state;
+// Topic 1 has 90 items, topic 2 only 12; the exams 150 and 140.
+struct Builder : StudyFixture {
+    Builder() { FillSmallCourse(state, {90, 12, 100, 100, 100, 100, 100, 100, 94}, {150, 140}); }
 };
 
-TEST_F(ExamSetFormTest, FirstOpeningInARunShowsExamIWithTheDefaults) {
-    ExamSetForm form(state);
-    EXPECT_EQ(form.selectedExam(), 0);
-    EXPECT_EQ(form.examCaption(0), "Exam I - Author Prepared - 1st Drill");
-    EXPECT_FALSE(form.listsEnabled());
-    EXPECT_FALSE(form.topicsEnabled());
-    EXPECT_TRUE(form.topicChecked(8));
-    EXPECT_EQ(form.timeRow(), AuthorExamTimeRow);
-    EXPECT_EQ(form.itemRow(), 149);
-    EXPECT_EQ(form.poolText(), "Items Available in Pool:  796");
-    EXPECT_TRUE(form.scrambled());
-    EXPECT_FALSE(form.structured());
-    EXPECT_EQ(BuilderRowText(5), "   5");
-    EXPECT_EQ(BuilderRowText(255), " 255");
-    EXPECT_EQ(TopicCaption(state, 2), " 2   Preliminary Evaluation");
+// The builder as it stands: the selected exam and the three captions ('-' behind a disabled
+// one), the rows of time and length ('-' when the lists are disabled), the topics checked ('-'
+// when disabled), the pool, the approach and order, and '!' when "&Take Exam" is disabled.
+std::string Shown(const ExamSetForm& form) {
+    std::string text = std::to_string(form.selectedExam());
+    for (int e = 0; e < 3; ++e)
+        text += "|" + form.examCaption(e) + (form.examEnabled(e) ? "" : "-");
+    text += "|" + std::to_string(form.timeRow()) + "/" + std::to_string(form.itemRow()) +
+            (form.listsEnabled() ? " " : "- ");
+    for (int t = 0; t < TopicCount; ++t)
+        text += form.topicChecked(t) ? std::to_string(t + 1) : "";
+    return text + (form.topicsEnabled() ? "|" : "-|") + form.poolText() +
+           (form.structured() ? "|structured" : "|traditional") +
+           (form.scrambled() ? " scrambled" : "") + (form.takeEnabled() ? "" : "!");
 }
 
-TEST_F(ExamSetFormTest, TakeCountersGiveSuffixesAndAFinishedExamIsPassedOver) {
-    state.TakeCounts[10] = 3;
-    state.TakeCounts[11] = 2;
-    state.TakeCounts[12] = 1;
-    ExamSetForm form(state);
-    EXPECT_EQ(form.examCaption(0), "Exam I - Author Prepared - Finished");
-    EXPECT_FALSE(form.examEnabled(0));
-    EXPECT_EQ(form.examCaption(1), "Exam II - Author Prepared - Last Drill");
-    EXPECT_EQ(form.examCaption(2), "Custom Built by You - 2nd Drill");
-    EXPECT_EQ(form.selectedExam(), 1);
-    EXPECT_EQ(form.itemRow(), 139);
+TEST(ExamSetForm, OpensOnTheFirstExamNotFinishedWithItsValues) {
+    const struct {
+        std::array<int, 3> takes;
+        std::string shown;
+    } cases[] = {
+        {{0, 0, 0},
+         "0|Exam I - Author Prepared - 1st Drill|Exam II - Author Prepared - 1st Drill|Custom "
+         "Built by You - 1st Drill|38/149- 123456789-|Items Available in Pool:  796|traditional "
+         "scrambled"},
+        {{3, 2, 1},
+         "1|Exam I - Author Prepared - Finished-|Exam II - Author Prepared - Last Drill|Custom "
+         "Built by You - 2nd Drill|38/139- 123456789-|Items Available in Pool:  796|traditional "
+         "scrambled"},
+    };
+    for (const auto& c : cases) {
+        Builder b;
+        std::copy(c.takes.begin(), c.takes.end(), b.state.TakeCounts.begin() + 10);
+        EXPECT_EQ(Shown(ExamSetForm(b.state)), c.shown);
+    }
+    EXPECT_EQ(BuilderRowText(5) + BuilderRowText(255), "   5 255");
+    Builder b;
+    EXPECT_EQ(TopicCaption(b.state, 2), " 2   Preliminary Evaluation");
 }
 
-TEST_F(ExamSetFormTest, PoolGuardsAndCustomValuesKeptWhileAnAuthorExamIsSelected) {
-    state.TakeCounts[10] = state.TakeCounts[11] = 3;
-    state.ExamKind = 3;
-    state.ExamItemCount = 40;
-    state.ExamMinutes = 255;
-    ExamSetForm form(state);
-    ASSERT_EQ(form.selectedExam(), 2);
-    EXPECT_EQ(form.timeRow(), 50);
-    EXPECT_EQ(form.itemRow(), 39);
+TEST(ExamSetForm, PoolGuardsAndCustomValuesKeptWhileAnAuthorExamIsSelected) {
+    Builder b;
+    b.state.TakeCounts[10] = b.state.TakeCounts[11] = 3;
+    b.state.ExamKind = 3;
+    b.state.ExamItemCount = 40;
+    b.state.ExamMinutes = 255;
+    ExamSetForm form(b.state);
+    const std::string captions = "|Exam I - Author Prepared - Finished-|Exam II - Author Prepared "
+                                 "- Finished-|Custom Built by You - 1st Drill|";
+    EXPECT_EQ(Shown(form), "2" + captions +
+                               "50/39 123456789|Items Available in Pool:  796|traditional "
+                               "scrambled");
 
     // 300 questions, then a single topic of 12: the number is pulled down to the pool.
     form.selectItemRow(299);
-    for (int i = 0; i < TopicCount; ++i) {
+    for (int i = 0; i < TopicCount; ++i)
         form.setTopic(i, i == 1);
-    }
-    EXPECT_EQ(form.pool(), 12);
     EXPECT_EQ(form.itemRow(), 11);
     form.setTopic(1, false);
-    EXPECT_EQ(form.poolText(), "Items Available in Pool:    0");
-    EXPECT_FALSE(form.takeEnabled());
+    EXPECT_EQ(Shown(form),
+              "2" + captions + "50/11 |Items Available in Pool:    0|traditional scrambled!");
 
     // To an author-prepared exam and back: items and time return, topics from ExamTopics.
     form.selectTimeRow(0);
     form.selectExam(0);
-    EXPECT_TRUE(form.takeEnabled());
-    EXPECT_EQ(form.timeRow(), AuthorExamTimeRow);
+    EXPECT_EQ(Shown(form), "0" + captions +
+                               "38/149- 123456789-|Items Available in Pool:  796|traditional "
+                               "scrambled");
     form.selectExam(2);
-    EXPECT_EQ(form.timeRow(), 0);
-    EXPECT_EQ(form.itemRow(), 11);
-    EXPECT_TRUE(form.topicChecked(0));
-    EXPECT_EQ(form.pool(), 796);
+    EXPECT_EQ(Shown(form), "2" + captions +
+                               "0/11 123456789|Items Available in Pool:  796|traditional "
+                               "scrambled");
 }
 
-TEST_F(ExamSetFormTest, TakeLeavesTheChoiceInTheSession) {
-    state.ExamMinutes = 5;
-    ExamSetForm form(state);
+TEST(ExamSetForm, TakeLeavesTheChoiceInTheSession) {
+    Builder b;
+    b.state.ExamMinutes = 5;
+    ExamSetForm form(b.state);
     form.selectExam(2);
-    EXPECT_EQ(form.timeRow(), 0); // 5 minutes selects the first row
     form.selectItemRow(24);
     form.setTopic(4, false);
     form.setStructured(true);
     form.setScrambled(false);
     form.take();
-    EXPECT_EQ(state.ExamKind, 3);
-    EXPECT_EQ(state.ExamType, 3);
-    EXPECT_EQ(state.ExamMinutes, 5);
-    EXPECT_EQ(state.ExamItemCount, 25);
-    EXPECT_FALSE(state.ExamTopics[5]);
-    EXPECT_TRUE(state.ExamTopics[6]);
-    EXPECT_EQ(state.ExamStructured, 1);
-    EXPECT_FALSE(state.ExamScrambled);
-}
-
-std::vector<int> Items(const SessionState& s) {
-    return {s.ExamItems.begin() + 1, s.ExamItems.begin() + 1 + s.ExamItemCount};
+    const SessionState& s = b.state;
+    EXPECT_EQ(std::tuple(s.ExamKind, s.ExamType, s.ExamMinutes, s.ExamItemCount, s.ExamTopics[5],
+                         s.ExamTopics[6], s.ExamStructured, s.ExamScrambled),
+              std::tuple(3, 3, 5, 25, false, true, 1, false)); // 5 minutes: the first time row
 }
 
 TEST(GapSort, SortsRowsOneToNAndMovesParallelTables) {
@@ -123,60 +122,46 @@ TEST(GapSort, SortsRowsOneToNAndMovesParallelTables) {
                 std::swap(twin[i], twin[j]);
             });
         EXPECT_TRUE(std::is_sorted(keys.begin() + 1, keys.end())) << n;
-        for (int i = 1; i <= n; ++i) {
-            EXPECT_EQ(twin[i], -keys[i]);
-        }
-        EXPECT_EQ(keys[0], 0); // row 0 is never touched
+        for (int i = 0; i <= n; ++i)
+            EXPECT_EQ(twin[i], -keys[i]); // row 0 is never touched
     }
 }
 
-class DrawExamTest : public ::testing::Test, protected StudyFixture {};
+std::vector<int> Draw(StudyFixture& f, int kind, bool scrambled, int count,
+                      std::initializer_list<double> draws) {
+    SessionState& s = f.state;
+    s.ExamKind = static_cast<int16_t>(kind);
+    s.ExamScrambled = scrambled;
+    s.ExamItemCount = static_cast<int16_t>(count);
+    f.random.script(draws);
+    DrawExam(s, f.random, f.clock);
+    return {s.ExamItems.begin() + 1, s.ExamItems.begin() + 1 + count};
+}
 
-TEST_F(DrawExamTest, UnscrambledCustomExamOfTheWholePoolIsInRunningOrder) {
-    state.ExamKind = 3;
-    state.ExamScrambled = false;
-    state.ExamTopics.fill(false);
-    state.ExamTopics[2] = state.ExamTopics[4] = state.ExamTopics[9] = true;
-    state.ExamItemCount = 8; // 3 + 2 + 3
-    random.script({0.9, 0.1, 0.6, 0.3, 0.75, 0.2, 0.4, 0.8});
-    state.ExamAnswers[5] = 2; // a draw clears the answers of an earlier exam
-    DrawExam(state, random, clock);
+TEST(DrawExam, TakesTheHeadOfTheShuffledPoolOrTheContentOrder) {
+    StudyFixture f;
+    SessionState& s = f.state;
     // Topic 2 holds running numbers 5..7, topic 4 13..14, topic 9 23..25.
-    EXPECT_EQ(Items(state), (std::vector<int>{5, 6, 7, 13, 14, 23, 24, 25}));
-    EXPECT_EQ(state.ExamAnswers[5], 0);
-}
+    s.ExamTopics.fill(false);
+    s.ExamTopics[2] = s.ExamTopics[4] = s.ExamTopics[9] = true;
+    s.ExamAnswers[5] = 2; // a draw clears the answers of an earlier exam
+    EXPECT_EQ(Draw(f, 3, false, 8, {0.9, 0.1, 0.6, 0.3, 0.75, 0.2, 0.4, 0.8}),
+              (std::vector<int>{5, 6, 7, 13, 14, 23, 24, 25}));
+    EXPECT_EQ(s.ExamAnswers[5], 0);
 
-TEST_F(DrawExamTest, CustomExamIsTheHeadOfAWholeRangeShuffle) {
-    state.ExamKind = 3;
-    state.ExamScrambled = true;
-    state.ExamTopics.fill(false);
-    state.ExamTopics[2] = true; // pool 5, 6, 7
-    state.ExamItemCount = 2;
+    s.ExamTopics[4] = s.ExamTopics[9] = false; // pool 5, 6, 7
     // i=1: r=3 -> 7 6 5; i=2: r=1 -> 6 7 5; i=3: r=3 (the last still draws) -> 6 7 5
-    random.script({0.9, 0.1, 0.7});
-    DrawExam(state, random, clock);
-    EXPECT_EQ(Items(state), (std::vector<int>{6, 7}));
-    EXPECT_EQ(state.ExamPool[3], 5);
-    EXPECT_EQ(random.calls(), 3);
-    EXPECT_EQ(random.seeds().size(), 1u); // seeded from the system's timer
-}
+    EXPECT_EQ(Draw(f, 3, true, 2, {0.9, 0.1, 0.7}), (std::vector<int>{6, 7}));
+    EXPECT_EQ(s.ExamPool[3], 5);
+    EXPECT_EQ(f.random.calls(), 8 + 3);
+    EXPECT_EQ(f.random.seeds().size(), 2u); // seeded from the system's timer on each draw
 
-TEST_F(DrawExamTest, AuthorExamsFollowTheContentOrderUnlessScrambled) {
-    state.ExamScrambled = false;
-    state.ExamKind = 2;
-    state.ExamItemCount = 5;
-    DrawExam(state, random, clock);
     // Exam II starts with the item after exam I's last.
-    EXPECT_EQ(Items(state), (std::vector<int>{7, 8, 9, 10, 11}));
-    EXPECT_EQ(random.calls(), 0);
-
-    state.ExamScrambled = true;
-    state.ExamKind = 1;
-    state.ExamItemCount = 6;
-    random.script({0.99, 0.0, 0.99, 0.0, 0.99, 0.0});
-    DrawExam(state, random, clock);
+    EXPECT_EQ(Draw(f, 2, false, 5, {}), (std::vector<int>{7, 8, 9, 10, 11}));
+    EXPECT_EQ(f.random.calls(), 8 + 3);
     // Draws alternate 6 and 1: 6 2 3 4 5 1, 2 6 3 4 5 1, 2 6 1 4 5 3, 4 6 1 2 5 3, ...
-    EXPECT_EQ(Items(state), (std::vector<int>{5, 6, 1, 2, 3, 4}));
+    EXPECT_EQ(Draw(f, 1, true, 6, {0.99, 0.0, 0.99, 0.0, 0.99, 0.0}),
+              (std::vector<int>{5, 6, 1, 2, 3, 4}));
 }
 
 } // namespace
