@@ -5,7 +5,7 @@
 #include "core/progress_file.h"
 #include "exam/exam_session.h"
 #include "reports/scoring.h"
-#include "scoring_exam.h"
+#include "tests/reports/card_records.h"
 #include "tests/support/report_card_driver.h"
 #include "tests/support/screen_checks.h"
 #include "tests/support/screen_fixture.h"

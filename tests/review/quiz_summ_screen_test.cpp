@@ -2,8 +2,8 @@
 // retake, help and the printed card. What every report card shares is driven on Scoring.
 
 #include "core/progress_file.h"
-#include "quiz_summ_card.h"
 #include "review/quiz_summ.h"
+#include "tests/reports/card_records.h"
 #include "tests/support/report_card_driver.h"
 #include "tests/support/screen_fixture.h"
 

@@ -1,8 +1,15 @@
-#include "reports/scoring_rows.h"
+// The screening exam report card without its screen: the rows, their order, the "Include"
+// choices, what a retake or the results take from a row, and the printed card.
 
-#include "scoring_exam.h"
+#include "platform/card_print.h"
+#include "reports/scoring_print.h"
+#include "reports/scoring_rows.h"
+#include "tests/reports/card_records.h"
+#include "tests/support/recording_printer.h"
 
 #include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
 
 namespace tessera {
 namespace {
@@ -18,11 +25,10 @@ std::vector<int> Loaded(const std::vector<ScoringRow>& rows) {
     return loaded;
 }
 
-// An exam of `asked` items, `unsure` of them marked unsure.
+// An exam of `asked` items, all answered, `unsure` of them marked unsure.
 ExamRecord Sized(const char* date, float score, int asked, int unsure) {
     ExamRecord r = CardExam(10, 1, date, score, {});
-    r.ItemCount = static_cast<int16_t>(asked);
-    r.AnsweredCount = r.ItemCount;
+    r.ItemCount = r.AnsweredCount = static_cast<int16_t>(asked);
     r.UnsureCount = static_cast<int16_t>(unsure);
     return r;
 }
@@ -32,10 +38,7 @@ TEST(ScoringRows, RowTextFillsEachColumnToItsWidth) {
     custom.TimeLimit = 0; // no allotted time: an empty field
     custom.Scrambled = 0;
     custom.MinutesUsed = 1.5F;
-    const struct {
-        ExamRecord record;
-        std::string text;
-    } cases[] = {
+    const std::pair<ExamRecord, std::string> cases[] = {
         {CardExam(10, 1, "12-20-2026", 0.875F, {1, 2, 3, 4, 1, 2, 3, 9}),
          "Exam I        12-20-2026  87.5%      8        8        0      Yes     195   1:30:30"},
         {custom, "Custom        01-05-2027  50.0%      2        2        0       No" + Blanks(8) +
@@ -49,12 +52,8 @@ TEST(ScoringRows, RowTextFillsEachColumnToItsWidth) {
         {CardExam(11, 2, "02-04-2027", 0.25F, {0}),
          "Exam II       02-04-2027  25.0%      1        0        0      Yes     195   1:30:30"},
     };
-    for (const auto& c : cases) {
-        const auto rows = LoadScoringRows({c.record});
-        ASSERT_EQ(rows.size(), 1U);
-        EXPECT_EQ(ScoringRowText(rows[0]), c.text);
-        EXPECT_EQ(c.text.size(), 83U);
-    }
+    for (const auto& [record, text] : cases)
+        EXPECT_EQ(ScoringRowText(LoadScoringRows({record}).at(0)), text);
 }
 
 TEST(ScoringRows, TotalsStandUnderTheColumnsAndRoundTheCorrectCountRowByRow) {
@@ -80,38 +79,24 @@ TEST(ScoringRows, LoadingKeepsExamsOnlyWithinThe300Positions) {
     ExamRecord partial = CardExam(10, 1, "03-04-2027", 0.5F, {1, 1, 1});
     partial.ItemCount = 2; // position 3 stands past the exam's end and is not loaded
     const auto rows = LoadScoringRows({big, CardExam(13, 1, "03-05-2027", 0.5F, {1}), partial});
-    ASSERT_EQ(rows.size(), 2U);
-    EXPECT_EQ(Loaded(rows), (std::vector<int>{1, 2}));
+    ASSERT_EQ(Loaded(rows), (std::vector<int>{1, 2}));
     EXPECT_NE(ScoringRowText(rows[0]).find("    300 "), std::string::npos);
-    EXPECT_EQ(rows[1].record.Items[3], 0);
-    EXPECT_EQ(rows[1].record.AnswerCodes[3], 0);
+    EXPECT_EQ(rows[1].record.Items[3] + rows[1].record.AnswerCodes[3], 0);
 }
 
-struct SortCase {
-    ScoringSort sort;
-    std::vector<int> loaded;
-};
-
-class ScoringSorts : public testing::TestWithParam<SortCase> {};
-
-TEST_P(ScoringSorts, OrderByTheirKeyAndLeaveTiesWhereTheGapsPutThem) {
+TEST(ScoringRows, SortsOrderByTheirKeyAndLeaveTiesWhereTheGapsPutThem) {
     // Dates compare as month-day-year text: the January exam sorts before the Decembers.
-    std::vector<ScoringRow> rows =
+    const auto loaded =
         LoadScoringRows({Sized("12-20-2026", 0.50F, 40, 4), Sized("01-05-2027", 0.90F, 20, 4),
                          Sized("11-02-2026", 0.50F, 150, 15), Sized("03-15-2026", 0.30F, 40, 0),
                          Sized("12-01-2026", 1.00F, 12, 6)});
-    SortScoringRows(rows, GetParam().sort);
-    EXPECT_EQ(Loaded(rows), GetParam().loaded);
-    SortScoringRows(rows, GetParam().sort);
-    EXPECT_EQ(Loaded(rows), GetParam().loaded);
+    EXPECT_EQ(
+        SortedKeys(loaded,
+                   {ScoringSort::EarliestDate, ScoringSort::LatestDate, ScoringSort::PercentCorrect,
+                    ScoringSort::QuestionsAsked, ScoringSort::PercentUnsure},
+                   SortScoringRows, &ScoringRow::loaded),
+        "24351 15342 52134 34125 52134");
 }
-
-INSTANTIATE_TEST_SUITE_P(FiveWays, ScoringSorts,
-                         testing::Values(SortCase{ScoringSort::EarliestDate, {2, 4, 3, 5, 1}},
-                                         SortCase{ScoringSort::LatestDate, {1, 5, 3, 4, 2}},
-                                         SortCase{ScoringSort::PercentCorrect, {5, 2, 1, 3, 4}},
-                                         SortCase{ScoringSort::QuestionsAsked, {3, 4, 1, 2, 5}},
-                                         SortCase{ScoringSort::PercentUnsure, {5, 2, 1, 3, 4}}));
 
 TEST(ScoringRows, ErasingSelectsTheRowAboveOrTheNewFirst) {
     const auto three =
@@ -166,36 +151,29 @@ ScoringRow MixedRow() {
 }
 
 TEST(ScoringRows, ARetakeAsksTheChosenPositionsInTheirOrderAsANewExam) {
-    const struct {
-        ExamRetake choice;
-        int type;
-        std::vector<int16_t> items;
-    } cases[] = {
-        {ExamRetake::AllQuestions, 4, {101, 102, 103, 104, 105, 106}},
-        {ExamRetake::MissedQuestions, 5, {102, 103, 105, 106}},
-        {ExamRetake::UnsureQuestions, 6, {104, 105}},
+    // The items chosen, then the rest of the table cleared.
+    const std::tuple<ExamRetake, int, std::vector<int16_t>> cases[] = {
+        {ExamRetake::AllQuestions, 4, {101, 102, 103, 104, 105, 106, 0}},
+        {ExamRetake::MissedQuestions, 5, {102, 103, 105, 106, 0}},
+        {ExamRetake::UnsureQuestions, 6, {104, 105, 0}},
     };
-    for (const auto& c : cases) {
+    std::array<bool, TopicCount + 1> topics{};
+    topics[2] = topics[7] = true;
+    for (const auto& [choice, type, items] : cases) {
         SessionState state;
         state.SuspendedExamRecord = 7;
         state.ExamPosition = 3;
         state.ExamItems.fill(555);
         state.ExamTopics.fill(true);
-        BuildExamRetake(state, MixedRow(), c.choice);
-        EXPECT_EQ(state.ExamType, c.type);
-        ASSERT_EQ(state.ExamItemCount, static_cast<int16_t>(c.items.size()));
-        EXPECT_EQ(std::vector<int16_t>(state.ExamItems.begin() + 1,
-                                       state.ExamItems.begin() + 1 + state.ExamItemCount),
-                  c.items);
-        EXPECT_EQ(state.ExamItems[c.items.size() + 1], 0);
-        EXPECT_EQ(state.ExamKind, 2);
-        EXPECT_EQ(state.ExamMinutes, 90);
-        EXPECT_TRUE(state.ExamScrambled);
-        EXPECT_EQ(state.ExamStructured, 1);
-        EXPECT_EQ(state.SuspendedExamRecord, 0);
-        EXPECT_EQ(state.ExamPosition, 0);
-        for (int t = 0; t <= TopicCount; ++t)
-            EXPECT_EQ(state.ExamTopics[static_cast<size_t>(t)], t == 2 || t == 7) << t;
+        BuildExamRetake(state, MixedRow(), choice);
+        EXPECT_EQ(state.ExamType, type);
+        EXPECT_EQ(state.ExamItemCount + 1, static_cast<int>(items.size()));
+        EXPECT_TRUE(std::equal(items.begin(), items.end(), state.ExamItems.begin() + 1));
+        const std::array<int, 6> kept = {
+            state.ExamKind,       state.ExamMinutes,         state.ExamScrambled,
+            state.ExamStructured, state.SuspendedExamRecord, state.ExamPosition};
+        EXPECT_EQ(kept, (std::array<int, 6>{2, 90, 1, 1, 0, 0}));
+        EXPECT_EQ(state.ExamTopics, topics);
     }
 }
 
@@ -210,12 +188,96 @@ TEST(ScoringRows, AStoredExamComesBackForResultsWithItsAnswersAndMarks) {
     EXPECT_DOUBLE_EQ(state.ExamElapsed, 90.5 / 1440.0);
     EXPECT_FLOAT_EQ(state.ExamScore, 0.4F);
     EXPECT_TRUE(state.ExamScrambled); // not stored on the card
-    const std::vector<int16_t> answers = {0, 1, 2, 0, 1, 2, 0, 0};
-    const std::vector<int16_t> unsure = {0, 0, 0, 0, 63, 63, 0, 0};
     EXPECT_EQ(std::vector<int16_t>(state.ExamAnswers.begin(), state.ExamAnswers.begin() + 8),
-              answers);
-    EXPECT_EQ(std::vector<int16_t>(state.ExamUnsure.begin(), state.ExamUnsure.begin() + 8), unsure);
+              (std::vector<int16_t>{0, 1, 2, 0, 1, 2, 0, 0}));
+    EXPECT_EQ(std::vector<int16_t>(state.ExamUnsure.begin(), state.ExamUnsure.begin() + 8),
+              (std::vector<int16_t>{0, 0, 0, 0, 63, 63, 0, 0}));
     EXPECT_EQ(state.ExamItems[6], 106);
+}
+
+ScoringRow PlainRow() {
+    return {CardExam(10, 1, "12-20-2026", 0.5F, {1, 6}), 1};
+}
+
+ScoringRow CustomRow() {
+    ScoringRow row{CardExam(12, 3, "01-05-2027", 0.5F, {1, 6}), 2};
+    row.record.Topics[2] = row.record.Topics[7] = 1;
+    return row;
+}
+
+QString Joined(const std::vector<QString>& lines) {
+    return QStringList(lines.begin(), lines.end()).join(u'\n');
+}
+
+TEST(ScoringPrint, PagesBreakAfterLine61AndEachCopyHasItsOwnHeadsRowsAndTotals) {
+    const QString rule(89, u'-');
+    const QString opening =
+        Joined({QString(), u"Screening Exam Report Card"_s, QString(),
+                u"               Date    Percent Questions  Number   Unsure  Scrambled  "
+                "Allotted  Time Used"_s,
+                u"Exam Title     Taken   Correct   Asked   Answered  Answers   Order   "
+                "Time (min.)  (h:m:s)"_s,
+                rule});
+    const QString continued = u"\nScreening Exam Report Card (cont.)\n"_s;
+    const QString plain =
+        u"Exam I        12-20-2026  50.0%      2        2        0      Yes     195   1:30:30"_s;
+    const QString custom =
+        u"Custom        01-05-2027  50.0%      2        2        0      Yes     195   1:30:30\n"
+        "          Topics Covered:  2, 7\n"_s;
+    const auto lines = [](const QString& line, int times) {
+        return QStringList(times, line).join(u'\n');
+    };
+    const struct {
+        int plainBefore;
+        bool withCustom;
+        int plainAfter;
+        int copies;
+        QString first;  // the rows of the first page
+        QString second; // the second page up to the closing rule and totals
+    } cases[] = {
+        {54, false, 0, 1, lines(plain, 54), continued},
+        // 53 rows bring the page to line 60; the custom exam's three lines then pass line 61.
+        {53, true, 1, 1, lines(plain, 53) + u'\n' + custom, continued + u'\n' + plain},
+        {1, true, 1, 2, plain + u'\n' + custom + u'\n' + plain, {}},
+    };
+    for (const auto& c : cases) {
+        std::vector<ScoringRow> rows(static_cast<size_t>(c.plainBefore), PlainRow());
+        if (c.withCustom)
+            rows.push_back(CustomRow());
+        rows.insert(rows.end(), static_cast<size_t>(c.plainAfter), PlainRow());
+        RecordingPrinter printer;
+        printer.dialogAnswer = PrintChoice{c.copies, false};
+        PrintCard(printer, ScoringPaper(rows, "Courier New"));
+        const QString closing =
+            rule + u'\n' + QString(13, u' ') + QString::fromStdString(ScoringTotalsText(rows));
+        const QString copy = opening + u'\n' + c.first + u'\n' + closing;
+        const QString pages = c.copies == 2
+                                  ? copy + u'\f' + copy
+                                  : opening + u'\n' + c.first + u'\f' + c.second + u'\n' + closing;
+        EXPECT_EQ(Joined(printer.pageText(1)) + u'\f' + Joined(printer.pageText(2)), pages);
+        EXPECT_TRUE(printer.pageText(3).empty());
+        EXPECT_EQ(printer.jobsEnded, 1);
+        EXPECT_EQ(printer.dialogsShown, std::vector<PrintDialogKind>{PrintDialogKind::Table});
+    }
+}
+
+TEST(ScoringPrint, FontsAndCancel) {
+    // Whatever font an earlier print left, the card asks for its own or the fixed-pitch fallback.
+    for (const char* font : {"Courier New", ""}) {
+        RecordingPrinter printer;
+        printer.setFontName(u"Arial"_s);
+        printer.setFontSize(11);
+        printer.setFontBold(true);
+        PrintCard(printer, ScoringPaper({PlainRow()}, font));
+        for (const PrintedLine& line : printer.lines)
+            EXPECT_EQ(std::tuple(line.fontName, line.fontSize, line.bold),
+                      std::tuple(QString::fromLatin1(font), 10.0, false));
+    }
+    RecordingPrinter cancelled;
+    cancelled.dialogAnswer.reset();
+    EXPECT_FALSE(PrintCard(cancelled, ScoringPaper({PlainRow()}, "Courier New")));
+    EXPECT_TRUE(cancelled.lines.empty());
+    EXPECT_EQ(cancelled.jobsEnded, 0);
 }
 
 } // namespace
