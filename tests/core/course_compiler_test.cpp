@@ -1,3 +1,6 @@
+// The course compiler writes the content file the program cuts back: the tool, its source
+// errors and its check, then the program's own reading of what it wrote.
+
 #include "core/content_file.h"
 #include "core/item_text.h"
 #include "course/compiler/content_check.h"
@@ -10,6 +13,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <sys/wait.h>
 
 using namespace tessera;
@@ -29,9 +33,10 @@ D. Fourth
 Because C.
 )";
 
+// One item in topics 1 and 3 to 9, two in exam 2, two glossary entries, every text.
 Course SmallCourse(std::vector<SourceError>& errors) {
     Course course;
-    course.prologue = "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\n\\f0 !\n";
+    course.prologue = "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\n\\f0 Hi! there!\nignored\n";
     for (int t = 1; t <= 9; ++t)
         course.topics[t] = ParseItems(TopicSource, "topics/t.txt", errors);
     course.topics[2].clear();
@@ -45,6 +50,7 @@ Course SmallCourse(std::vector<SourceError>& errors) {
     return course;
 }
 
+// The text the program reads of a content file: all but its last byte.
 std::string ProgramText(const std::string& file) {
     return file.substr(0, file.size() - 1);
 }
@@ -56,14 +62,32 @@ std::vector<std::string> Messages(const std::vector<SourceError>& errors) {
     return messages;
 }
 
+void Write(const std::filesystem::path& path, const std::string& text) {
+    if (path.has_parent_path())
+        std::filesystem::create_directories(path.parent_path());
+    std::ofstream(path, std::ios::binary) << text;
+}
+
+// Runs the tool and gives its exit code and its output's last line.
+std::pair<int, std::string> RunTool(const std::string& arguments) {
+    const std::string command = std::string(TESSERA_COURSE_TOOL) + " " + arguments + " 2>&1";
+    FILE* pipe = popen(command.c_str(), "r");
+    std::string output;
+    char buffer[512];
+    while (pipe && fgets(buffer, sizeof buffer, pipe))
+        output = buffer;
+    const int status = pipe ? pclose(pipe) : -1;
+    return {WEXITSTATUS(status), output};
+}
+
 } // namespace
 
-TEST(CourseCompiler, WritesWhatTheCutReadsBack) {
+TEST(CourseCompiler, WritesWhatTheProgramCutsBack) {
+    StudyFolder folder;
     std::vector<SourceError> errors;
     const std::string file = WriteContent(SmallCourse(errors), errors);
     ASSERT_TRUE(errors.empty()) << Messages(errors)[0];
     EXPECT_EQ(file.find('\n'), file.find("\r\n") + 1) << "lines end in CR LF";
-
     const ContentSummary summary = CheckContent(ProgramText(file));
     ASSERT_TRUE(summary.violations.empty()) << summary.violations[0].message;
     EXPECT_EQ(OkLine(summary), "ok: 8 review items (1 0 1 1 1 1 1 1 1), 2 exam items (0 2), "
@@ -71,23 +95,53 @@ TEST(CourseCompiler, WritesWhatTheCutReadsBack) {
 
     SessionState state;
     FillCatalogue(state);
-    CutContent(ProgramText(file), state.catalogue, state.content);
+    EXPECT_FALSE(LoadContent(state));
+    folder.write("Tessera", file);
+    ASSERT_TRUE(LoadContent(state));
     const CourseContent& c = state.content;
-    EXPECT_EQ(c.RtfHeader, "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\r\n\\f0 ");
+    std::string counts;
+    for (int g = 1; g <= TopicCount; ++g)
+        counts += std::to_string(c.ItemCounts[g][1]) + std::to_string(c.ItemCounts[g][2]) + ' ';
+    EXPECT_EQ(counts, "10 02 10 10 10 10 10 10 10 ") << "each group: topic, then exam";
+    EXPECT_EQ(c.RtfHeader, "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\r\n\\f0 Hi! there");
     EXPECT_EQ(c.ReviewItems[2].substr(0, 12), "\\par 03001C\r");
-    EXPECT_EQ(ItemAnswerLetter(c.ExamItemTexts[2]), 'C');
     EXPECT_EQ(c.ExamItemTexts[2].substr(0, 11), "\\par 02002C");
+    EXPECT_EQ(ItemAnswerLetter(c.ExamItemTexts[2]), 'C');
     EXPECT_EQ(ItemQuestion(c.ReviewItems[1]),
               "Which \\b one\\b0  is \\i right\\i0 ? Cost \\{x\\} * caf\\'e9\r\n"
               "\\par {}01 begins with digits.\r\n\\par A. First\r\n\\par B. Second\r\n"
               "\\par C. Third\r\n\\par D. Fourth\r\n\\par \r\n");
+    // An item ends two characters before the next header, the last of its section at the
+    // next marker; either way closed.
     EXPECT_EQ(ItemExplanation(c.ReviewItems[1]), "\r\n\\par Because C.\r\\par }\r\n");
+    for (const std::string& last : {c.ReviewItems[8], c.ExamItemTexts[2]})
+        EXPECT_EQ(ItemExplanation(last), "\r\n\\par Because C.\r\n\\par }\r\n");
+    EXPECT_EQ(ItemExplanation("\\par 01001A\r\n\\par no marker"), "");
+    EXPECT_EQ(ItemAnswerLetter("\\par 01"), '\0');
     EXPECT_EQ(GlossaryTerm(c.GlossaryEntries[1]), "Acre");
     EXPECT_EQ(GlossaryDefinition(c.GlossaryEntries[2]), "Public rules.\r\n\\par }\r\n");
+    EXPECT_EQ(c.GlossaryEntries[3], "");
     EXPECT_EQ(c.TextSections[3],
               "\\pard\\qc\\b Title\\b0 \r\n\\par \\pard Body \\i text\\i0 .\r\n"
               "\\par \r\n\\par \\pard\\fi-240\\li360 \\'95\\tab a point\\par }\r\n");
-    EXPECT_EQ(c.HelpTexts[17], "Help 17\r\n\\par }\r");
+    EXPECT_EQ(c.HelpTexts[16], "Help 16\r\n\\par }\r\n");
+    EXPECT_EQ(c.HelpTexts[17], "Help 17\r\n\\par }\r") << "the last help text stays open";
+
+    // Cut short and damaged anywhere, the text is cut as far as it goes and never read
+    // outside (the sanitizer run watches).
+    std::mt19937 random(7);
+    for (int round = 0; round < 300; ++round) {
+        std::string damaged = ProgramText(file).substr(0, random() % file.size());
+        for (int k = 0; k < 5 && !damaged.empty(); ++k) {
+            const size_t at = random() % damaged.size();
+            if (random() % 2)
+                damaged.erase(at, random() % 40);
+            else
+                damaged[at] = "\\^*\r\n0119 "[random() % 10];
+        }
+        CourseContent content;
+        CutContent(damaged, state.catalogue, content);
+    }
 }
 
 TEST(CourseCompiler, SourceErrorsNameFileAndLine) {
@@ -115,70 +169,39 @@ TEST(CourseCompiler, SourceErrorsNameFileAndLine) {
         }));
 }
 
-TEST(CourseCompiler, CheckListsEveryViolationByLine) {
+TEST(CourseCompiler, CheckNamesEveryViolationByItsLine) {
     std::vector<SourceError> errors;
-    std::string file = ProgramText(WriteContent(SmallCourse(errors), errors));
-    auto lineOf = [&](const std::string& text) {
-        const size_t at = file.find(text);
-        return static_cast<int>(std::count(file.begin(), file.begin() + at, '\n')) + 1;
+    const std::string file = ProgramText(WriteContent(SmallCourse(errors), errors));
+    // A damage, and each violation found by its line counted from the damaged one.
+    const std::tuple<std::string, std::string, std::string> damages[] = {
+        {"\\par 04001C", "\\par 04001E", "0 answer letter \"E\" outside A to D"},
+        {"\\par 05001C\r\n", "\\par 05001C\r\n\\par 05 inside\r\n",
+         "0 item without its explanation marker|0 item without choice A|1 a header line inside "
+         "an item, or a broken item header"},
+        {"\\par 06001C", "\\par 06001X", "0 answer letter \"X\" outside A to D"},
+        {"\\par *\r\n\\par Because C.\r\n\\par 07", "\\par Because C.\r\n\\par 07",
+         "-8 item without its explanation marker"},
+        {"\\par Zoning\r\n\\par  Public rules.\r\n", "\\par Zoning\r\n",
+         "0 glossary entry without a definition"},
+        {"\\par D. Fourth\r\n\\par \r\n\\par *\r\n\\par Because C.\r\n\\par 08",
+         "\\par D. Fourth\r\n\\par *\r\n\\par Because C.\r\n\\par 08",
+         "0 no \"\\par \" behind the last choice"},
+        {"Help 17\r\n\\par }\r", "Help 17\r\n\\par }\r\r\n\\par ^",
+         "2 section marker beyond the eleventh"},
+        {"\\par 01\r\n\\par Acre", "",
+         "-1 8 section markers; the format has 11|-1 glossary: header 01 missing"},
     };
-    auto replace = [&](const std::string& from, const std::string& to) {
-        file.replace(file.find(from), from.size(), to);
-    };
-    replace("\\par 04001C", "\\par 04001E");
-    replace("\\par 05001C\r\n", "\\par 05001C\r\n\\par 05 inside\r\n");
-    replace("\\par 06001C", "\\par 06001X");
-    file.replace(file.find("\\par *", file.find("\\par 06001X")), 8, "");
-    replace("\\par  Public rules.\r\n", "");
-    file.replace(file.find("\\par D. Fourth\r\n\\par \r\n", file.find("\\par 07001C")) + 16, 7, "");
-    const int letter = lineOf("\\par 04001E");
-    const int inside = lineOf("\\par 05 inside");
-    const int noMarker = lineOf("\\par 06001X");
-    const int choice = lineOf("\\par 07001C") + 6;
-    const ContentSummary summary = CheckContent(file);
-    std::vector<std::pair<int, std::string>> found;
-    for (const Violation& v : summary.violations)
-        found.emplace_back(v.line, v.message);
-    const int zoning = lineOf("\\par Zoning");
-    EXPECT_EQ(found, (std::vector<std::pair<int, std::string>>{
-                         {zoning, "glossary entry without a definition"},
-                         {letter, "answer letter \"E\" outside A to D"},
-                         {inside - 1, "item without its explanation marker"},
-                         {inside - 1, "item without choice A"},
-                         {inside, "a header line inside an item, or a broken item header"},
-                         {noMarker, "answer letter \"X\" outside A to D"},
-                         {noMarker, "item without its explanation marker"},
-                         {choice, "no \"\\par \" behind the last choice"},
-                     }));
-
-    file += "\r\n\\par ^";
-    EXPECT_EQ(CheckContent(file).violations.back().message, "section marker beyond the eleventh");
-    EXPECT_EQ(CheckContent(file.substr(0, file.find("\\par 01\r\n\\par Acre"))).violations.size(),
-              2u)
-        << "four markers missing, and no glossary header";
+    for (const auto& [from, to, said] : damages) {
+        std::string damaged = file;
+        const size_t at = damaged.find(from);
+        damaged.replace(at, to.empty() ? std::string::npos : from.size(), to);
+        const int line = static_cast<int>(std::count(file.begin(), file.begin() + at, '\n')) + 1;
+        std::string found;
+        for (const Violation& v : CheckContent(damaged).violations)
+            found += (found.empty() ? "" : "|") + std::to_string(v.line - line) + ' ' + v.message;
+        EXPECT_EQ(found, said) << from;
+    }
 }
-
-namespace {
-
-void Write(const std::filesystem::path& path, const std::string& text) {
-    if (path.has_parent_path())
-        std::filesystem::create_directories(path.parent_path());
-    std::ofstream(path, std::ios::binary) << text;
-}
-
-// Runs the tool and gives its exit code and its output's last line.
-std::pair<int, std::string> RunTool(const std::string& arguments) {
-    const std::string command = std::string(TESSERA_COURSE_TOOL) + " " + arguments + " 2>&1";
-    FILE* pipe = popen(command.c_str(), "r");
-    std::string output;
-    char buffer[512];
-    while (pipe && fgets(buffer, sizeof buffer, pipe))
-        output = buffer;
-    const int status = pipe ? pclose(pipe) : -1;
-    return {WEXITSTATUS(status), output};
-}
-
-} // namespace
 
 TEST(CourseCompiler, ReadsAFolderAndBuildsAFileThatChecks) {
     StudyFolder study;

@@ -1,23 +1,22 @@
+// The progress file as each operation leaves it, and the journal of a running test or exam as
+// the next start finds it.
+
 #include "core/progress_file.h"
+#include "core/run_journal.h"
 #include "tests/core/progress_records.h"
+#include "tests/support/faulty_files.h"
 #include "tests/support/study_folder.h"
 
 #include <gtest/gtest.h>
+
+#include <functional>
+#include <sstream>
 
 using namespace tessera;
 
 namespace {
 
-// Record n of a file, 1 for the header.
-std::string Record(const std::string& file, int n) {
-    return RecordsOf(file).at(static_cast<size_t>(n - 1));
-}
-
-RecordBytes RecordAt(const std::string& file, int n) {
-    RecordBytes record{};
-    std::copy_n(file.begin() + (n - 1) * RecordSize, RecordSize, record.begin());
-    return record;
-}
+const DateValue Today = DateFromParts(2026, 11, 19);
 
 // A header as a first run leaves it, with the reserved tail and a flag byte of 2 that every
 // operation has to pass through.
@@ -31,136 +30,137 @@ ProgressHeader StartedHeader() {
     return h;
 }
 
+// The file in short: the suspended test and exam record numbers, then each record as t<topic>
+// or e<exam kind> at its position, and the length of a cut-off tail.
+std::string Sketch(const std::string& file) {
+    std::ostringstream out;
+    out << +static_cast<uint8_t>(file[5]) << '/' << +static_cast<uint8_t>(file[6]);
+    const std::vector<std::string> records = RecordsOf(file);
+    for (size_t n = 1; n < records.size(); ++n) {
+        const auto byte = [&](int at) { return static_cast<uint8_t>(records[n][at]); };
+        const int kind = byte(0);
+        out << ' ' << (kind <= TopicCount ? 't' : 'e') << (kind <= TopicCount ? kind : kind - 9)
+            << '@' << static_cast<int16_t>(byte(11) | byte(12) << 8);
+    }
+    if (file.size() % RecordSize != 0)
+        out << " +" << file.size() % RecordSize;
+    return out.str();
+}
+
+int status(SaveStatus saved) {
+    return static_cast<int>(saved);
+}
+
+struct Step {
+    const char* what;
+    std::function<int(SessionState&)> run; // the record written, or the status
+    std::string after;                     // the result, then the file's sketch
+};
+
+// A session with a review test and an exam running, each at its first item.
 class ProgressFileTest : public ::testing::Test {
 protected:
     void SetUp() override {
         FillCatalogue(state);
         state.CurrentTopic = 3;
+        state.TakeCounts[3] = 2;
+        state.TestType = 1;
         state.TestItemCount = 2;
         state.TestPosition = 1;
         state.TestItems = {0, 5, 6};
+        state.ExamKind = 2;
+        state.ExamType = 2;
+        state.ExamItemCount = 2;
+        state.ExamPosition = 1;
+        state.ExamItems = {0, 11, 12};
+        state.ExamKey = {0, 1, 2};
+        state.ExamAnswers = {0, 1, 0};
+        state.ExamAnswered = {0, 1, 0};
     }
     StudyFolder folder;
     SessionState state;
-    const DateValue today = DateFromParts(2026, 11, 19);
 };
 
 } // namespace
 
-TEST_F(ProgressFileTest, ABrokenOffTestKeepsOneRecordUntilItIsFinished) {
-    folder.write(ProgressFile, std::string(RecordSize, 0)); // a first run's file
-    state.TakeCounts[3] = 2;
-    EXPECT_EQ(SaveReviewTest(state, false, today).recordNumber, 2);
-    state.TestPosition = 2;
-    EXPECT_EQ(SaveReviewTest(state, false, today).recordNumber, 2);
-    std::string file = folder.read(ProgressFile);
-    ASSERT_EQ(file.size(), 2u * RecordSize) << "breaking off twice overwrites the same record";
-    EXPECT_EQ(file[5], 2);
-    EXPECT_EQ(file[37 + 2], 2) << "TakeCounts(3) in its counter byte";
-    EXPECT_EQ(DecodeReviewTest(RecordAt(file, 2)).Position, 2);
-    EXPECT_EQ(std::string(file.begin() + RecordSize + 1, file.begin() + RecordSize + 11),
-              "11-19-2026");
-
-    const SaveResult finished = SaveReviewTest(state, true, today);
-    EXPECT_EQ(finished.recordNumber, 2);
-    EXPECT_EQ(state.TestPosition, 0);
-    EXPECT_EQ(state.SuspendedTestRecord, 0);
-    EXPECT_EQ(folder.read(ProgressFile)[5], 0);
-    state.TestPosition = 1;
-    EXPECT_EQ(SaveReviewTest(state, false, today).recordNumber, 3) << "the next test is new";
-}
-
-TEST_F(ProgressFileTest, HeaderOperationsTouchOnlyTheirOwnBytes) {
-    folder.write(ProgressFile, File({EncodeHeader(StartedHeader())}));
-    const std::string before = folder.read(ProgressFile);
-    AppendProgressLog(11, 0.75f, today);
-    std::string after = folder.read(ProgressFile);
-    for (size_t i = 0; i < after.size(); ++i) {
-        const bool slotOne = (i >= 49 && i < 59) || i == 409 || (i >= 445 && i < 449);
-        if (!slotOne) {
-            EXPECT_EQ(after[i], before[i]) << "byte " << i;
-        }
+// Breaking off keeps one record per run until it is finished; card rewrites and removals move
+// the suspended numbers along with their records.
+TEST_F(ProgressFileTest, RecordsGoWhereTheSuspendedNumbersSay) {
+    ProgressHeader header = StartedHeader();
+    header.SuspendedTestRecord = 2;
+    folder.write(ProgressFile, File({EncodeHeader(header), EncodeExam(ExamOfKind(1)),
+                                     EncodeReviewTest(TestOfTopic(2))}) +
+                                   std::string(300, '\xEE'));
+    state.SuspendedTestRecord = 2;
+    state.ExamAnswered[2] = 1;
+    const auto save = [](bool finished, int position) {
+        return [=](SessionState& s) {
+            s.TestPosition = static_cast<int16_t>(position);
+            return SaveReviewTest(s, finished, Today).recordNumber;
+        };
+    };
+    const auto exams = [](std::vector<ExamRecord> kept) {
+        return [=](SessionState& s) { return status(RewriteProgressFile(s, kept, Today)); };
+    };
+    const auto removed = [](int record) {
+        return [=](SessionState& s) { return status(RemoveProgressRecord(s, record, Today)); };
+    };
+    const Step steps[] = {
+        {"a number at an exam: the test is new", save(false, 1), "4: 4/0 e1@0 t2@0 t3@1"},
+        {"broken off again: the same record", save(false, 2), "4: 4/0 e1@0 t2@0 t3@2"},
+        {"finished in place", save(true, 2), "4: 0/0 e1@0 t2@0 t3@2"},
+        {"the next test is new", save(false, 1), "5: 5/0 e1@0 t2@0 t3@2 t3@1"},
+        {"the exam card keeps two exams, first", exams({ExamOfKind(3), ExamOfKind(4)}),
+         "0: 6/0 e3@0 e4@0 t2@0 t3@2 t3@1"},
+        {"an exam broken off",
+         [](SessionState& s) { return SaveExam(s, false, Today).recordNumber; },
+         "7: 6/7 e3@0 e4@0 t2@0 t3@2 t3@1 e2@1"},
+        {"the suspended test taken out", removed(6), "0: 0/6 e3@0 e4@0 t2@0 t3@2 e2@1"},
+        {"the review card keeps three tests, first",
+         [](SessionState& s) {
+             const std::vector<ReviewTestRecord> kept{TestOfTopic(4), TestOfTopic(7),
+                                                      TestOfTopic(1)};
+             return status(RewriteProgressFile(s, kept, Today));
+         },
+         "0: 0/7 t4@0 t7@0 t1@0 e3@0 e4@0 e2@1"},
+        {"a test taken out", removed(3), "0: 0/6 t4@0 t1@0 e3@0 e4@0 e2@1"},
+    };
+    for (const Step& step : steps) {
+        const int result = step.run(state);
+        const std::string sketch = Sketch(folder.read(ProgressFile));
+        EXPECT_EQ(std::to_string(result) + ": " + sketch, step.after) << step.what;
+        EXPECT_TRUE(sketch.starts_with(std::to_string(state.SuspendedTestRecord) + '/' +
+                                       std::to_string(state.SuspendedExamRecord) + ' '))
+            << step.what << ": the session's numbers are the header's";
     }
-    EXPECT_EQ(std::string(after.begin() + 49, after.begin() + 59), "11-19-2026");
-    EXPECT_EQ(after[409], 11);
-    EXPECT_EQ(DecodeHeader(RecordAt(after, 1)).LogScores[1], 0.75f);
-
-    for (int i = 2; i <= LogSlotCount; ++i)
-        AppendProgressLog(i % 12 + 1, 0.5f, today);
-    const std::string full = folder.read(ProgressFile);
-    AppendProgressLog(4, 1.0f, today);
-    EXPECT_EQ(folder.read(ProgressFile), full) << "with all 36 slots taken nothing changes";
-
-    state.SoundOn = true;
-    state.PassingGrade = 75;
-    SavePreferences(state);
-    after = folder.read(ProgressFile);
-    EXPECT_EQ(after.substr(0, 5), std::string({0, 1, 0, 0, 75}));
-    EXPECT_TRUE(std::equal(after.begin() + 5, after.end(), full.begin() + 5));
-
-    state.ExamItemCount = 2;
-    state.ExamAnswered = {0, 1, 1};
-    SaveExam(state, true, today);
-    SaveReviewTest(state, false, today);
-    after = folder.read(ProgressFile);
-    EXPECT_TRUE(std::equal(after.begin() + 589, after.begin() + RecordSize, full.begin() + 589))
-        << "the reserved tail passes through every save";
-    EXPECT_EQ(after[0], 0);
-}
-
-TEST_F(ProgressFileTest, ExamCardRewriteMovesTheSuspendedTestAlong) {
-    ProgressHeader h = StartedHeader();
-    h.SuspendedTestRecord = 4;
-    folder.write(ProgressFile,
-                 File({EncodeHeader(h), EncodeExam(ExamOfKind(1)), EncodeReviewTest(TestOfTopic(2)),
-                       EncodeReviewTest(TestOfTopic(5)), // suspended
-                       EncodeExam(ExamOfKind(3))}));
-    state.SuspendedTestRecord = 4;
-
-    // The card kept only the custom exam: it comes first, the two tests follow.
-    ASSERT_EQ(RewriteProgressFile(state, std::vector<ExamRecord>{ExamOfKind(3)}, today),
-              SaveStatus::Saved);
-    // Still record 4: 1 kept + ordinal 2 + 1.
-    const std::string expected =
-        File({EncodeHeader(h), EncodeExam(ExamOfKind(3)), EncodeReviewTest(TestOfTopic(2)),
-              EncodeReviewTest(TestOfTopic(5))});
-    EXPECT_EQ(folder.read(ProgressFile), expected);
-
-    ASSERT_EQ(RewriteProgressFile(state, std::vector<ExamRecord>{}, today), SaveStatus::Saved);
-    const std::string after = folder.read(ProgressFile);
-    ASSERT_EQ(after.size(), 3u * RecordSize);
-    EXPECT_EQ(state.SuspendedTestRecord, 3);
-    EXPECT_EQ(after[5], 3);
-    EXPECT_EQ(Record(after, 3), Record(expected, 4));
+    const std::string file = folder.read(ProgressFile);
+    EXPECT_EQ(RecordsOf(file).back().substr(1, 10), "11-19-2026");
+    header.SuspendedTestRecord = 0;
+    header.SuspendedExamRecord = 6;
+    header.TakeCounts[3] = 2;
+    EXPECT_EQ(file.substr(0, RecordSize), RecordsOf(File({EncodeHeader(header)}))[0]);
     EXPECT_FALSE(folder.exists(NewProgressFile));
 }
 
-TEST_F(ProgressFileTest, ReviewCardRewriteAndRemovalMoveTheSuspendedExam) {
-    ProgressHeader h = StartedHeader();
-    h.SuspendedExamRecord = 3;
-    const std::string file = File({EncodeHeader(h), EncodeReviewTest(TestOfTopic(1)),
-                                   EncodeExam(ExamOfKind(2)), // suspended
-                                   EncodeReviewTest(TestOfTopic(4))});
-    folder.write(ProgressFile, file);
-    state.SuspendedExamRecord = 3;
-
-    const std::vector<ReviewTestRecord> kept{TestOfTopic(4), TestOfTopic(7), TestOfTopic(1)};
-    ASSERT_EQ(RewriteProgressFile(state, kept, today), SaveStatus::Saved);
-    std::string after = folder.read(ProgressFile);
-    EXPECT_EQ(state.SuspendedExamRecord, 5);
-    EXPECT_EQ(after[6], 5);
-    EXPECT_EQ(after[5], 0);
-    EXPECT_EQ(Record(after, 2)[0], 4);
-    EXPECT_EQ(Record(after, 5), Record(file, 3));
-
-    ASSERT_EQ(RemoveProgressRecord(state, 3, today), SaveStatus::Saved);
-    after = folder.read(ProgressFile);
-    ASSERT_EQ(after.size(), 4u * RecordSize);
-    EXPECT_EQ(state.SuspendedExamRecord, 4);
-    EXPECT_EQ(after[6], 4);
-    EXPECT_EQ(Record(after, 3)[0], 1);
-    EXPECT_EQ(Record(after, 4), Record(file, 3));
-    EXPECT_TRUE(std::equal(after.begin() + 7, after.begin() + RecordSize, file.begin() + 7));
+TEST_F(ProgressFileTest, HeaderOperationsWriteOnlyTheirOwnFields) {
+    ProgressHeader expected = StartedHeader();
+    folder.write(ProgressFile, File({EncodeHeader(expected)}));
+    for (int slot = 1; slot <= LogSlotCount + 1; ++slot) {
+        AppendProgressLog(slot % 12 + 1, 0.25f * (slot % 4), Today);
+        if (slot <= LogSlotCount) { // with all slots taken nothing changes
+            expected.LogDates[slot] = "11-19-2026";
+            expected.LogCodes[slot] = static_cast<uint8_t>(slot % 12 + 1);
+            expected.LogScores[slot] = 0.25f * (slot % 4);
+        }
+        ASSERT_EQ(folder.read(ProgressFile), File({EncodeHeader(expected)})) << "slot " << slot;
+    }
+    state.SoundOn = true;
+    state.PassingGrade = 75;
+    SavePreferences(state);
+    expected.ScrambleQuestions = 0;
+    expected.SoundOn = 1;
+    expected.PassingGrade = 75;
+    EXPECT_EQ(folder.read(ProgressFile), File({EncodeHeader(expected)}));
 }
 
 TEST_F(ProgressFileTest, ATestBeyondRecord255IsSavedAndKeptForThisRun) {
@@ -168,41 +168,117 @@ TEST_F(ProgressFileTest, ATestBeyondRecord255IsSavedAndKeptForThisRun) {
     for (int n = 2; n <= 255; ++n)
         file += File({EncodeExam(ExamOfKind(1))});
     folder.write(ProgressFile, file);
-    SaveResult result = SaveReviewTest(state, false, today);
-    EXPECT_EQ(result.status, SaveStatus::SuspendedBeyondHeader);
-    EXPECT_EQ(result.recordNumber, 256);
-    EXPECT_EQ(folder.read(ProgressFile)[5], 0) << "the byte cannot point at 256";
-    result = SaveReviewTest(state, false, today);
-    EXPECT_EQ(result.recordNumber, 256) << "the session still knows its record";
+    for (int time = 0; time < 2; ++time) {
+        const SaveResult result = SaveReviewTest(state, false, Today);
+        EXPECT_EQ(result.status, SaveStatus::SuspendedBeyondHeader);
+        EXPECT_EQ(result.recordNumber, 256) << "the session still knows its record";
+        EXPECT_EQ(Sketch(folder.read(ProgressFile)).substr(0, 4), "0/0 ") << "no byte for 256";
+    }
     EXPECT_EQ(folder.read(ProgressFile).size(), 256u * RecordSize);
-
     // Taking one record out brings it within reach of the header again.
-    ASSERT_EQ(RemoveProgressRecord(state, 2, today), SaveStatus::Saved);
+    ASSERT_EQ(RemoveProgressRecord(state, 2, Today), SaveStatus::Saved);
     EXPECT_EQ(state.SuspendedTestRecord, 255);
-    EXPECT_EQ(static_cast<uint8_t>(folder.read(ProgressFile)[5]), 255);
-}
-
-// Where a suspended number points at a record of the other kind, the test is saved anew.
-TEST_F(ProgressFileTest, ASuspendedNumberAtAnExamSavesTheTestAsANewRecord) {
-    std::string file = File({EncodeHeader(StartedHeader()), EncodeExam(ExamOfKind(2))});
-    file.resize(file.size() + 300, '\xEE'); // a cut-off record
-    folder.write(ProgressFile, file);
-    EXPECT_EQ(ProgressRecordCount(), 2);
-    state.SuspendedTestRecord = 2;
-    EXPECT_EQ(SaveReviewTest(state, false, today).recordNumber, 3);
-    EXPECT_EQ(folder.read(ProgressFile).size(), 3u * RecordSize);
-    EXPECT_EQ(Record(folder.read(ProgressFile), 2), Record(file, 2));
+    EXPECT_EQ(Sketch(folder.read(ProgressFile)).substr(0, 6), "255/0 ");
 }
 
 // A NewConfig left complete by a crash replaces the progress file; an unfinished one is dropped.
 TEST_F(ProgressFileTest, StartUpRecoversACompleteRewrite) {
     const std::string saved = File({EncodeHeader(StartedHeader()), EncodeExam(ExamOfKind(2))});
-    folder.write(NewProgressFile, saved);
-    RecoverProgressFile();
-    EXPECT_EQ(folder.read(ProgressFile), saved);
-    EXPECT_FALSE(folder.exists(NewProgressFile));
-    folder.write(NewProgressFile, std::string(10, 1));
-    RecoverProgressFile();
-    EXPECT_FALSE(folder.exists(NewProgressFile)) << "an unfinished rewrite is dropped";
+    for (const std::string& rewrite : {saved, std::string(10, 1)}) {
+        folder.write(NewProgressFile, rewrite);
+        RecoverProgressFile();
+        EXPECT_EQ(folder.read(ProgressFile), saved);
+        EXPECT_FALSE(folder.exists(NewProgressFile));
+    }
+}
+
+struct JournalCase {
+    const char* name;
+    bool exam;
+    bool suspendedBefore; // the run was saved once already, so it replaces its record
+    int cutTo;            // bytes kept of the journal; 0: all
+    int flipByte;         // a byte changed after the journal was written; -1: none
+    const char* replayed; // what the next start after the replay restores
+};
+
+class RunJournalTest : public ProgressFileTest, public testing::WithParamInterface<JournalCase> {};
+
+// Whole, a journal becomes the suspended test or exam; cut off or not adding up, it is dropped
+// and the file stays as it was.
+TEST_P(RunJournalTest, WholeJournalsBecomeTheSuspendedRunAndOthersAreDropped) {
+    const JournalCase& c = GetParam();
+    if (c.suspendedBefore)
+        c.exam ? SaveExam(state, false, Today) : SaveReviewTest(state, false, Today);
+    else
+        WriteProgressHeader(ProgressHeader{});
+    const std::string saved = folder.read(ProgressFile);
+    // The exam's second answer is given but not committed: a break would clear it, the run
+    // keeps it.
+    state.ExamAnswers[2] = 3;
+    ASSERT_TRUE(JournalExam(state, Today));
+    EXPECT_EQ(state.ExamAnswers[2], 3) << "journaling leaves the running exam alone";
+    // Two more answers, then the machine stops before any save.
+    state.TestPosition = 2;
+    state.TestTally = {0, 2, 1, 4, 0};
+    state.ExamAnswered[2] = 1;
+    state.ExamPosition = 2;
+    ASSERT_TRUE(c.exam ? JournalExam(state, Today) : JournalReviewTest(state, Today));
+    std::string journal = folder.read(JournalFile);
+    if (c.cutTo != 0)
+        journal.resize(static_cast<std::size_t>(c.cutTo));
+    if (c.flipByte >= 0)
+        journal[static_cast<std::size_t>(c.flipByte)] ^= 0x20;
+    folder.write(JournalFile, journal);
+
+    const auto restarted = [] {
+        SessionState next;
+        FillCatalogue(next);
+        RestoreSuspended(next);
+        return next;
+    };
+    SessionState next = restarted();
+    const Replayed replayed = ReplayJournal(next, Today);
+    EXPECT_FALSE(folder.exists(JournalFile));
+    const SessionState later = restarted();
+    EXPECT_EQ(
+        std::to_string(static_cast<int>(replayed)) + ": " + Sketch(folder.read(ProgressFile)) +
+            ", test at " + std::to_string(later.TestPosition) + " tally " +
+            std::to_string(later.TestTally[3]) + ", exam at " + std::to_string(later.ExamPosition) +
+            " answer " + std::to_string(later.ExamAnswers[2]),
+        c.replayed);
+    if (replayed == Replayed::Nothing) {
+        EXPECT_EQ(folder.read(ProgressFile), saved);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Cases, RunJournalTest,
+    testing::Values(JournalCase{"NewTest", false, false, 0, -1,
+                                "1: 2/0 t3@2, test at 2 tally 4, exam at 0 answer 0"},
+                    JournalCase{"ResumedTest", false, true, 0, -1,
+                                "1: 2/0 t3@2, test at 2 tally 4, exam at 0 answer 0"},
+                    JournalCase{"ResumedExam", true, true, 0, -1,
+                                "2: 0/2 e2@2, test at 0 tally 0, exam at 2 answer 3"},
+                    JournalCase{"NewExam", true, false, 0, -1,
+                                "2: 0/2 e2@2, test at 0 tally 0, exam at 2 answer 3"},
+                    JournalCase{"HalfWritten", false, true, 470, -1,
+                                "0: 2/0 t3@1, test at 1 tally 0, exam at 0 answer 0"},
+                    JournalCase{"NotAddingUp", true, true, 0, 45,
+                                "0: 0/2 e2@1, test at 0 tally 0, exam at 1 answer 0"},
+                    JournalCase{"OneByte", false, false, 1, -1,
+                                "0: 0/0, test at 0 tally 0, exam at 0 answer 0"}),
+    [](const testing::TestParamInfo<JournalCase>& info) { return info.param.name; });
+
+TEST_F(ProgressFileTest, AJournalThatCannotBeRemovedIsEmptiedAndNothingIsReplayed) {
+    WriteProgressHeader(ProgressHeader{});
+    ASSERT_TRUE(JournalReviewTest(state, Today));
+    SaveReviewTest(state, true, Today); // the run is finished and saved
+    const std::string saved = folder.read(ProgressFile);
+    {
+        FaultyFiles stuck(FaultyFiles::Fault::RemoveRefused, 0);
+        DropJournal();
+    }
+    RestoreSuspended(state);
+    EXPECT_EQ(ReplayJournal(state, Today), Replayed::Nothing);
     EXPECT_EQ(folder.read(ProgressFile), saved);
 }
