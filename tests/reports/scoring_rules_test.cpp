@@ -115,6 +115,11 @@ TEST(ScoringRows, ErasingSelectsTheRowAboveOrTheNewFirst) {
     auto one = LoadScoringRows({Sized("01-01-2027", 0.5F, 4, 0)});
     EXPECT_EQ(EraseScoringRow(one, 1), 0);
     EXPECT_TRUE(one.empty());
+    // The rows kept are written back with each topic flag exactly one, and none for topic 0.
+    one = three;
+    one[0].record.Topics = {3, 1, 0, 0, 0, 0, 0, 2, 0, 0};
+    EXPECT_EQ(KeptExamRecords(one)[0].Topics,
+              (std::array<uint8_t, TopicCount + 1>{0, 1, 0, 0, 0, 0, 0, 1, 0, 0}));
 }
 
 TEST(ScoringRows, IncludeChoicesFollowTheRuleOfThreeCompleteDrills) {

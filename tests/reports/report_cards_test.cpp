@@ -1,0 +1,370 @@
+// The two report cards as the candidate meets them, over one progress file that holds exams and
+// review tests: the rows each reads, sorting that keeps the selection, the "Include" choices,
+// erasing with the offer to save, retakes, the stored results, help and printing. The rows'
+// texts, orders and choices are the rules tests'; the gallery shows the cards.
+
+#include "core/progress_file.h"
+#include "reports/scoring.h"
+#include "review/quiz_summ.h"
+#include "tests/reports/card_records.h"
+#include "tests/support/report_card_driver.h"
+#include "tests/support/screen_fixture.h"
+
+#include <QApplication>
+#include <QGroupBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace tessera {
+
+namespace {
+
+std::string Bytes(const RecordBytes& record) {
+    return {reinterpret_cast<const char*>(record.data()), record.size()};
+}
+
+// Records 2 to 6: exam I of December, a test of topic 3 of November (items 12 and 13, the second
+// wild), a custom exam of January over topics 2 and 7 (its flag for 7 is 2, which reads as set),
+// exam II of November and a test of topic 1 of January. By text, January comes first.
+std::vector<RecordBytes> MixedRecords() {
+    ExamRecord custom = CardExam(12, 3, "01-05-2027", 0.5F, {1, 7});
+    custom.Topics[2] = 1;
+    custom.Topics[7] = 2;
+    return {EncodeExam(CardExam(10, 1, "12-20-2026", 0.875F, {1, 2, 3, 9})),
+            EncodeReviewTest(CardRecord(3, "11-20-2026", 0.5F, 1, {0, 2}, 12)), EncodeExam(custom),
+            EncodeExam(CardExam(11, 2, "11-02-2026", 0.6F, {69, 6, 0, 2, 64}, 3)),
+            EncodeReviewTest(CardRecord(1, "01-05-2027", 0.5F, 1, {1, 0, 0, 0}))};
+}
+
+} // namespace
+
+class ReportCardsTest : public QObject {
+    Q_OBJECT
+
+private:
+    std::unique_ptr<ScreenFixture> f;
+    std::unique_ptr<ReportCard> card;
+    QLabel* topic = nullptr;
+    QLabel* totals = nullptr;
+
+    void write(const std::vector<RecordBytes>& records, int suspendedTest = 0,
+               int suspendedExam = 0) {
+        ProgressHeader header;
+        header.SuspendedTestRecord = static_cast<uint8_t>(suspendedTest);
+        header.SuspendedExamRecord = static_cast<uint8_t>(suspendedExam);
+        f->state.SuspendedTestRecord = static_cast<int16_t>(suspendedTest);
+        f->state.SuspendedExamRecord = static_cast<int16_t>(suspendedExam);
+        std::string bytes = Bytes(EncodeHeader(header));
+        for (const RecordBytes& record : records)
+            bytes += Bytes(record);
+        f->folder.write(ProgressFile, bytes);
+    }
+    Scoring& openScoring() {
+        auto* scoring = new Scoring(f->context);
+        shown(scoring, scoring->Label1[8], scoring->Label1[10]);
+        return *scoring;
+    }
+    QuizSumm& openQuizSumm() {
+        auto* quizSumm = new QuizSumm(f->context);
+        shown(quizSumm, quizSumm->Label3, quizSumm->Label2);
+        return *quizSumm;
+    }
+    void open(bool scoring) { scoring ? (void)openScoring() : (void)openQuizSumm(); }
+    void shown(ReportCard* opened, QLabel* topicLabel, QLabel* totalsLabel) {
+        card.reset(opened);
+        topic = topicLabel;
+        totals = totalsLabel;
+        card->show();
+    }
+    // The rows cut after the percent, the row selected (from 1) and the topic label.
+    QString view() const {
+        QStringList rows;
+        for (const QString& row : ListRows(card->List1))
+            rows << row.left(33).trimmed();
+        return rows.join(u'|') + u" @"_s + QString::number(card->List1->currentRow() + 1) + u' ' +
+               topic->text();
+    }
+    void click(QAbstractButton* button) { ClickAtLeft(button); }
+    void select(int row) { card->List1->setCurrentRow(row - 1); }
+    QString enabled() const {
+        QString on;
+        for (QWidget* control : std::initializer_list<QWidget*>{card->Frame1, card->Frame2})
+            on += control->isEnabled() ? u'F' : u'.';
+        for (size_t i = 0; i < card->Command1.size(); ++i)
+            on += card->Command1[i]->isEnabled() ? QChar(u'0' + int(i)) : QChar(u'.');
+        return on;
+    }
+
+private Q_SLOTS:
+    void init() { f = std::make_unique<ScreenFixture>(); }
+    void cleanup() {
+        card.reset();
+        f.reset();
+    }
+
+    // Steps: a sort option to click, or minus the row to select. The view after opening and
+    // after each sort: the selection stays with its row.
+    void listingAndSorting_data() {
+        QTest::addColumn<bool>("scoring");
+        QTest::addColumn<QList<int>>("steps");
+        QTest::addColumn<QStringList>("views");
+        QTest::addColumn<QString>("totalsShown");
+        QTest::newRow("Scoring, latest first, then by questions asked")
+            << true << QList<int>{1, -1, 3}
+            << QStringList{u"Custom        01-05-2027  50.0%|Exam II       11-02-2026  60.0%|"
+                           "Exam I        12-20-2026  87.5% @1 Topics Covered:  2, 7"_s,
+                           u"Exam I        12-20-2026  87.5%|Exam II       11-02-2026  60.0%|"
+                           "Custom        01-05-2027  50.0% @3 Topics Covered:  2, 7"_s,
+                           u"Exam II       11-02-2026  60.0%|Exam I        12-20-2026  87.5%|"
+                           "Custom        01-05-2027  50.0% @2 Topics Covered: "_s}
+            << u"Total:       72.7%     11       10        2              585  04:31:30"_s;
+        // 1 wild guess of 2 comes before 0 of 4.
+        QTest::newRow("QuizSumm, by topic, then by wild guesses")
+            << false << QList<int>{-2, 3, 4}
+            << QStringList{u"All Items      01-05-2027   50.0%|All Items      11-20-2026   50.0% "
+                           "@1 Related Topic 1: Definitions"_s,
+                           u"All Items      01-05-2027   50.0%|All Items      11-20-2026   50.0% "
+                           "@2 Related Topic 3: Real Property and Laws Relating to Ownership"_s,
+                           u"All Items      11-20-2026   50.0%|All Items      01-05-2027   50.0% "
+                           "@1 Related Topic 3: Real Property and Laws Relating to Ownership"_s}
+            << u" Total:      50.0%      6        1      1.33             2:11:00"_s;
+    }
+    void listingAndSorting() {
+        QFETCH(bool, scoring);
+        QFETCH(QList<int>, steps);
+        QFETCH(QStringList, views);
+        QFETCH(QString, totalsShown);
+        write(MixedRecords());
+        open(scoring);
+        QCOMPARE(totals->text(), totalsShown);
+        QStringList seen{view()};
+        for (int step : steps) {
+            if (step < 0) {
+                select(-step);
+            } else {
+                click(card->Option1[static_cast<size_t>(step)]);
+                seen << view();
+            }
+        }
+        QCOMPARE(seen.join(u'\n'), views.join(u'\n'));
+    }
+
+    void emptyCardsOfferOnlyDoneAndHelp_data() {
+        QTest::addColumn<bool>("scoring");
+        QTest::addColumn<QString>("shown"); // the frames and commands enabled, then the topic
+        QTest::addColumn<int>("help");
+        QTest::newRow("Scoring") << true << u"....23.. @0 Topics Covered: "_s << 13;
+        QTest::newRow("QuizSumm") << false << u"....23. @0 Topic Number:"_s << 6;
+    }
+    void emptyCardsOfferOnlyDoneAndHelp() {
+        QFETCH(bool, scoring);
+        QFETCH(QString, shown);
+        QFETCH(int, help);
+        open(scoring);
+        QCOMPARE(enabled() + view(), shown);
+        QCOMPARE(totals->text(), u"Total:"_s);
+        click(card->Command1[3]);
+        QCOMPARE(int(f->state.HelpTopic), help);
+        QCOMPARE(f->screens.calls(),
+                 (std::vector<ScreenCall>{{ScreenCallKind::Unload, ScreenName::Help},
+                                          {ScreenCallKind::Show, ScreenName::Help}}));
+    }
+
+    void includeChoicesFollowTheSelectedRow() {
+        write({EncodeExam(CardExam(10, 1, "01-01-2027", 1.0F, {1, 2})),
+               EncodeExam(CardExam(10, 1, "01-02-2027", 0.5F, {1, 64}))});
+        openScoring();
+        const auto offered = [this] {
+            QString on;
+            for (QRadioButton* option : card->Option2)
+                on += option->isEnabled() ? (option->isChecked() ? u'X' : u'o') : u'.';
+            return on + (card->Command1[4]->isEnabled() ? u" retake"_s : u""_s);
+        };
+        QCOMPARE(offered(), u"X.. retake"_s);
+        select(2);
+        click(card->Option2[1]);
+        QCOMPARE(offered(), u"oXo retake"_s);
+        select(1); // 100%: "Missed Questions" stays chosen but blocked
+        QCOMPARE(offered(), u"o.."_s);
+        click(card->Option2[0]);
+        QCOMPARE(offered(), u"X.. retake"_s);
+        // After three takes of exam I, whose full length is here 2, all of it is not offered again.
+        f->state.TakeCounts[10] = 3;
+        f->state.content.ItemCounts[1][2] = 2;
+        select(2);
+        QCOMPARE(offered(), u".oo"_s);
+    }
+
+    // Leaving with Yes writes the kept rows in the card's order, then the other kind's records in
+    // their old order, the suspended one of them renumbered.
+    void erasing_data() {
+        QTest::addColumn<bool>("scoring");
+        QTest::addColumn<bool>("save");
+        QTest::addColumn<QList<int>>("records"); // the old records in their new order
+        QTest::addColumn<int>("suspended");      // the other kind's suspended record after
+        QTest::newRow("Scoring, Yes") << true << true << QList<int>{1, 5, 2, 3, 6} << 5;
+        QTest::newRow("Scoring, No") << true << false << QList<int>{1, 2, 3, 4, 5, 6} << 6;
+        QTest::newRow("QuizSumm, Yes") << false << true << QList<int>{1, 3, 2, 4, 5} << 3;
+    }
+    void erasing() {
+        QFETCH(bool, scoring);
+        QFETCH(bool, save);
+        QFETCH(QList<int>, records);
+        QFETCH(int, suspended);
+        write(MixedRecords(), scoring ? 6 : 0, scoring ? 0 : 2);
+        const std::string before = f->folder.read(ProgressFile);
+        open(scoring);
+        click(card->Command1[1]); // the January row; the next one down is selected
+        QCOMPARE(view(), scoring ? u"Exam II       11-02-2026  60.0%|Exam I        12-20-2026  "
+                                   "87.5% @1 Topics Covered: "_s
+                                 : u"All Items      11-20-2026   50.0% @1 Related Topic 3: Real "
+                                   "Property and Laws Relating to Ownership"_s);
+        QCOMPARE(f->folder.read(ProgressFile), before); // nothing asked or written yet
+        QVERIFY(f->dialogs.messages().empty());
+        f->dialogs.answer(save ? MessageAnswer::Yes : MessageAnswer::No);
+        click(card->Command1[2]);
+
+        QCOMPARE(f->dialogs.messages().size(), size_t{1});
+        const ShownMessage& asked = f->dialogs.messages()[0];
+        QCOMPARE(asked.title + u'|' + asked.text,
+                 (scoring ? u"Exam Data Erased!"_s : u"Data Erased!"_s) +
+                     u"|Save Changes to Report Card?"_s);
+        QVERIFY(asked.icon == MessageIcon::Exclamation && asked.buttons == MessageButtons::YesNo);
+        QVERIFY((f->screens.calls().back() ==
+                 ScreenCall{ScreenCallKind::Unload,
+                            scoring ? ScreenName::Scoring : ScreenName::QuizSumm}));
+        std::string after;
+        for (int record : records)
+            after += before.substr(static_cast<size_t>((record - 1) * RecordSize), RecordSize);
+        after[scoring ? 5 : 6] = static_cast<char>(suspended);
+        QVERIFY(f->folder.read(ProgressFile) == after);
+        QCOMPARE(int(scoring ? f->state.SuspendedTestRecord : f->state.SuspendedExamRecord),
+                 suspended);
+    }
+
+    void scoringRetakeOfTheMissedItemsOpensAsANewExam() {
+        write(MixedRecords());
+        f->state.ExamMinutes = 30;
+        openScoring();
+        select(2); // exam II's items 3 to 7: wrong and unsure, wrong, none, right, right and unsure
+        click(card->Option2[1]);
+        click(card->Command1[4]);
+        QVERIFY(f->dialogs.messages().empty());
+        QCOMPARE(f->screens.calls(),
+                 (std::vector<ScreenCall>{{ScreenCallKind::Unload, ScreenName::Scoring},
+                                          {ScreenCallKind::Unload, ScreenName::ExamTest},
+                                          {ScreenCallKind::Show, ScreenName::ExamTest}}));
+        const SessionState& s = f->state;
+        QCOMPARE((QList<int>{s.ExamType, s.ExamMinutes, s.ExamItemCount, s.ExamItems[1],
+                             s.ExamItems[3]}),
+                 (QList<int>{5, 195, 3, 3, 5}));
+    }
+
+    void quizSummRetakeOffersTheErasureFirstThenOpensQuiz800() {
+        write(MixedRecords());
+        openQuizSumm();
+        select(2); // topic 3, items 12 and 13, the second wild
+        click(card->Option2[1]);
+        select(1);
+        click(card->Command1[1]); // erases the January test; the November one is selected
+        f->dialogs.answer(MessageAnswer::No);
+        f->screens.clearCalls();
+        click(card->Command1[4]);
+        QCOMPARE(f->dialogs.messages().size(), size_t{1});
+        QCOMPARE(f->screens.calls(),
+                 (std::vector<ScreenCall>{{ScreenCallKind::Unload, ScreenName::QuizSumm},
+                                          {ScreenCallKind::Show, ScreenName::Quiz800}}));
+        const SessionState& s = f->state;
+        QCOMPARE((QList<int>{s.TestType, s.CurrentTopic, s.TestItemCount, s.TestItems[1],
+                             s.TestPosition, s.WishesLeft[2]}),
+                 (QList<int>{RetakeMissedTest, 3, 1, 13, 1, 1}));
+    }
+
+    void viewResultsPutsTheStoredExamBackAndOpensResults() {
+        write(MixedRecords());
+        openScoring();
+        click(card->Command1[1]); // an erasure is offered for saving first
+        f->dialogs.answer(MessageAnswer::No);
+        select(2); // exam I of December
+        click(card->Command1[5]);
+        QCOMPARE(f->dialogs.messages().size(), size_t{1});
+        QCOMPARE(f->screens.calls(),
+                 (std::vector<ScreenCall>{{ScreenCallKind::Unload, ScreenName::Scoring},
+                                          {ScreenCallKind::Unload, ScreenName::Results},
+                                          {ScreenCallKind::Show, ScreenName::Results}}));
+        QCOMPARE(int(f->state.ExamAnswers[4]), 4); // the December exam's fourth answer
+    }
+
+    void scoringPrintsTheListInItsOrderWithTheTopics() {
+        write(MixedRecords());
+        f->state.PrintFontName = "Courier New";
+        openScoring();
+        select(2);
+        click(card->Command1[0]);
+        const std::vector<QString> page = f->printer.pageText(1);
+        QCOMPARE(page.size(), size_t{6 + 3 + 2 + 2});
+        QCOMPARE(QStringList({page[6], page[7], page[9], page.back()}).join(u'\n'),
+                 card->List1->item(0)->text() + u"\n          Topics Covered:  2, 7\n"_s +
+                     card->List1->item(1)->text() + u'\n' + QString(13, u' ') + totals->text());
+        QCOMPARE(card->List1->currentRow(), 1);
+        f->state.PrinterProblem = true;
+        openScoring();
+        QVERIFY(!card->Command1[0]->isEnabled());
+    }
+
+    // 55 rows bring the count to 62 after the last one: the rule and totals go on a new page.
+    void quizSummPrintingBreaksThePageAfterLine61() {
+        std::vector<RecordBytes> records;
+        for (int i = 0; i < 55; ++i)
+            records.push_back(
+                EncodeReviewTest(CardRecord(1 + i % 9, "02-03-2026", 0.5F, 1, {0, 1})));
+        write(records);
+        f->state.PrintFontName = "Courier New";
+        openQuizSumm();
+        select(7);
+        f->printer.dialogAnswer.reset(); // Cancel prints nothing and leaves the focus
+        card->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(card.get()));
+        card->List1->setFocus();
+        card->Command1[0]->click(); // as its access key would, the focus where it is
+        QCOMPARE(f->printer.dialogsShown.size(), size_t{1});
+        QVERIFY(f->printer.lines.empty());
+        QTRY_COMPARE(QApplication::focusWidget(), card->List1);
+        f->printer.dialogAnswer = PrintChoice{2, false};
+        click(card->Command1[0]);
+
+        QCOMPARE(f->printer.jobsEnded, 1);
+        const auto& lines = f->printer.lines;
+        QCOMPARE(lines[1].fontName + u' ' + QString::number(lines[1].fontSize),
+                 u"Courier New 10"_s);
+        const std::vector<QString> first = f->printer.pageText(1);
+        QCOMPARE(QStringList(first.begin(), first.begin() + 7).join(u'\n'),
+                 u"\nReview Test Scoring Report Card\n\n"_s + QString(19, u' ') +
+                     u"Date     Percent  Questions   Wild   Tries  Scrambled  Time Used\n"
+                     "  Test Type        Taken    Correct    Asked   Guesses  Ratio    Order    "
+                     "(h:m:s)\n"_s +
+                     QString(82, u'-') + u"\n  "_s + card->List1->item(0)->text());
+        QCOMPARE(first.back(), u"  "_s + card->List1->item(54)->text());
+        QCOMPARE(first.size(), size_t{61});
+        const std::vector<QString> second = {QString(), card->windowTitle() + u" (cont.)"_s,
+                                             QString(), QString(17, u' ') + QString(65, u'-'),
+                                             QString(17, u' ') + totals->text()};
+        QCOMPARE(f->printer.pageText(2), second);
+        QCOMPARE(f->printer.pageText(3).front(), QString()); // the second copy
+        QCOMPARE(lines.size(), size_t{2 * (61 + 5)});
+        QCOMPARE(card->List1->currentRow(), 6);
+        QTRY_COMPARE(QApplication::focusWidget(), card->Command1[2]);
+    }
+};
+
+} // namespace tessera
+
+QTEST_MAIN(tessera::ReportCardsTest)
+#include "report_cards_test.moc"
