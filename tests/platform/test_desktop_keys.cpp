@@ -5,7 +5,6 @@
 
 #include <QLineEdit>
 #include <QPushButton>
-#include <QSignalSpy>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -17,81 +16,70 @@ class TestDesktopKeys : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void enterPressesTheFocusedButton_data() {
-        QTest::addColumn<int>("key");
-        QTest::addColumn<int>("modifiers");
-        QTest::addColumn<bool>("enabled");
-        QTest::addColumn<bool>("repeated");
-        QTest::addColumn<int>("presses");
-        QTest::newRow("Return") << int(Qt::Key_Return) << 0 << true << false << 1;
-        QTest::newRow("keypad Enter")
-            << int(Qt::Key_Enter) << int(Qt::KeypadModifier) << true << false << 1;
-        QTest::newRow("held down") << int(Qt::Key_Return) << 0 << true << true << 0;
-        QTest::newRow("Ctrl+Return")
-            << int(Qt::Key_Return) << int(Qt::ControlModifier) << true << false << 0;
-        QTest::newRow("disabled") << int(Qt::Key_Return) << 0 << false << false << 0;
-        QTest::newRow("other key") << int(Qt::Key_X) << 0 << true << false << 0;
-    }
-    void enterPressesTheFocusedButton() {
-        QFETCH(int, key);
-        QFETCH(int, modifiers);
-        QFETCH(bool, enabled);
-        QFETCH(bool, repeated);
-        QFETCH(int, presses);
+    void enterPressesTheFocusedButtonAndEscapeClosesTheWindow() {
         EnterPressesButton enterKeys;
         QCoreApplication::instance()->installEventFilter(&enterKeys);
         QWidget screen;
         auto* button = new QPushButton(QStringLiteral("&Next"), &screen);
-        (new QVBoxLayout(&screen))->addWidget(button);
-        button->setEnabled(enabled);
+        auto* find = new QLineEdit(&screen);
+        auto* layout = new QVBoxLayout(&screen);
+        layout->addWidget(button);
+        layout->addWidget(find);
+        CloseOnEscape(&screen);
         screen.show();
-        QSignalSpy clicked(button, &QPushButton::clicked);
-        QKeyEvent press(QEvent::KeyPress, key, Qt::KeyboardModifiers(modifiers), QString(),
-                        repeated);
-        QApplication::sendEvent(button, &press);
-        QCOMPARE(clicked.count(), presses);
-    }
+        int clicks = 0;
+        connect(button, &QPushButton::clicked, [&clicks] { ++clicks; });
+        // Return, keypad Enter, held down, with Ctrl, on a disabled button, another key.
+        const struct {
+            int key;
+            Qt::KeyboardModifiers modifiers;
+            bool enabled, repeated;
+        } presses[] = {
+            {Qt::Key_Return, {}, true, false},  {Qt::Key_Enter, Qt::KeypadModifier, true, false},
+            {Qt::Key_Return, {}, true, true},   {Qt::Key_Return, Qt::ControlModifier, true, false},
+            {Qt::Key_Return, {}, false, false}, {Qt::Key_X, {}, true, false}};
+        QString counted;
+        for (const auto& p : presses) {
+            button->setEnabled(p.enabled);
+            QKeyEvent press(QEvent::KeyPress, p.key, p.modifiers, QString(), p.repeated);
+            QApplication::sendEvent(button, &press);
+            counted += QString::number(clicks);
+        }
+        QCOMPARE(counted, QStringLiteral("122222"));
 
-    void escapeClosesAWindowThatAsksIt() {
-        QWidget viewer;
-        auto* find = new QLineEdit(&viewer);
-        (new QVBoxLayout(&viewer))->addWidget(find);
-        CloseOnEscape(&viewer);
-        viewer.show();
-        QApplication::setActiveWindow(&viewer);
-        QVERIFY(QTest::qWaitForWindowActive(&viewer));
+        QApplication::setActiveWindow(&screen);
+        QVERIFY(QTest::qWaitForWindowActive(&screen));
         find->setFocus();
         QTest::keyClick(find, Qt::Key_Escape);
-        QVERIFY(!viewer.isVisible());
+        QVERIFY(!screen.isVisible());
     }
 
     // Nested boxes restart only at the last close; a timer stopped before stays stopped;
     // a timer gone with its screen is forgotten.
     void boxesHoldTheTimersBack() {
         ScriptedDialogs dialogs;
-        QTimer running;
-        QTimer stopped;
+        QTimer running, stopped;
         auto gone = std::make_unique<QTimer>();
         for (QTimer* timer : {&running, &stopped, gone.get()})
             dialogs.holdBack(timer);
         running.start(200);
         gone->start(200);
         gone.reset();
-        std::vector<bool> seen;
+        QString seen;
         dialogs.whileOpen([&] {
-            seen.push_back(running.isActive());
+            seen += running.isActive() ? u'1' : u'0';
             if (seen.size() == 1) {
                 dialogs.input(QStringLiteral("inner"), QStringLiteral("box"));
-                seen.push_back(running.isActive());
+                seen += running.isActive() ? u'1' : u'0';
             }
         });
         dialogs.message(QStringLiteral("outer"), QStringLiteral("box"), MessageIcon::None,
                         MessageButtons::Ok);
-        QCOMPARE(seen, (std::vector<bool>{false, false, false}));
-        QVERIFY(running.isActive());
-        QCOMPARE(running.interval(), 200);
-        QVERIFY(!stopped.isActive());
-        QVERIFY(!dialogs.boxOpen());
+        seen += QStringLiteral("%1 %2 %3")
+                    .arg(running.isActive())
+                    .arg(running.interval())
+                    .arg(stopped.isActive() || dialogs.boxOpen());
+        QCOMPARE(seen, QStringLiteral("0001 200 0"));
     }
 };
 

@@ -1,7 +1,8 @@
+// The rich text box: selection by plain-text positions, the copy-only keys, printing, the margin.
+
 #include "platform/print_rich_text.h"
 #include "platform/rich_text_view.h"
 #include "tests/support/recording_printer.h"
-#include "tests/support/study_folder.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -9,120 +10,89 @@
 
 namespace tessera {
 
+namespace {
+
+const std::string Heading = "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\\pard\\b\\qc\\fs32 Agency\\par"
+                            "\\pard\\plain\\fs20 A broker\\tab owes {\\i fiduciary} duties.\\par }";
+
+} // namespace
+
 class TestRichTextView : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void plainTextPositionsMatchTheSelection();
-    void readOnlyViewPassesOnlyTheCopyKey();
-    void saveThenLoadBringsTheDocumentBack();
-    void printsTheSelectionOrTheWholeText();
-    void rightMarginSetsTheWrapWidth();
+    void selectsByPlainTextPositions() {
+        RichTextView view;
+        view.setTextRtf(Heading);
+        QCOMPARE(view.text(), QStringLiteral("Agency\nA broker\towes fiduciary duties.\n"));
+        QString shown;
+        for (const auto& [start, length] : {std::pair{21, 9}, {2, 10}, {10000, 4}}) {
+            view.setSelStart(start);
+            view.setSelLength(length);
+            shown += QStringLiteral("%1 %2 %3|")
+                         .arg(view.selText())
+                         .arg(view.selStart())
+                         .arg(view.selLength());
+        }
+        QCOMPARE(shown, QStringLiteral("fiduciary 21 9|ency\nA bro 2 10| 39 0|"));
+    }
+
+    void copyOnlyPassesOnlyTheCopyKey() {
+        RichTextView view;
+        view.setTextRtf(Heading);
+        view.setCopyOnly(true);
+        view.setSelStart(0);
+        view.setSelLength(6);
+        QTest::keyClicks(&view, QStringLiteral("xyz"));
+        QTest::keyClick(&view, Qt::Key_Return);
+        QTest::keyClick(&view, Qt::Key_V, Qt::ControlModifier);
+        QTest::keyClick(&view, Qt::Key_Backspace);
+        QApplication::clipboard()->clear();
+        QTest::keyClick(&view, Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("Agency"));
+        view.setCopyOnly(false);
+        view.setSelStart(0);
+        QTest::keyClicks(&view, QStringLiteral("xy"));
+        QVERIFY(view.text().startsWith(QStringLiteral("xyAgency\nA broker")));
+    }
+
+    void printsTheSelectionOrTheWholeText() {
+        RichTextView view;
+        view.setTextRtf(Heading);
+        const struct {
+            std::optional<PrintChoice> choice; // none: the dialog is cancelled
+            std::optional<int> failAfterLines;
+            QString printed;
+        } cases[] = {
+            {PrintChoice{2, true}, std::nullopt, QStringLiteral("A broker|A broker|1")},
+            {PrintChoice{1, false}, std::nullopt, view.text() + QStringLiteral("|1")},
+            {PrintChoice{3, false}, 0, QStringLiteral("0")}, // a failing printer stops the copies
+            {std::nullopt, std::nullopt, QStringLiteral("0")},
+        };
+        for (const auto& c : cases) {
+            view.setSelStart(7);
+            view.setSelLength(8);
+            RecordingPrinter printer;
+            printer.dialogAnswer = c.choice;
+            printer.failAfterLines = c.failAfterLines;
+            PrintRichText(view, printer);
+            QCOMPARE(printer.dialogsShown, std::vector<PrintDialogKind>{PrintDialogKind::RichText});
+            QString printed;
+            for (const auto& document : printer.documents)
+                printed += document.text + u'|';
+            QCOMPARE(printed + QString::number(printer.jobsEnded), c.printed);
+        }
+    }
+
+    void rightMarginSetsTheWrapWidth() {
+        RichTextView view;
+        view.setRightMargin(6000);
+        QCOMPARE(view.lineWrapColumnOrWidth(), 400);
+        QCOMPARE(view.lineWrapMode(), QTextEdit::FixedPixelWidth);
+        view.setRightMargin(0);
+        QCOMPARE(view.lineWrapMode(), QTextEdit::WidgetWidth);
+    }
 };
-
-namespace {
-
-const std::string Heading = "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\\pard\\b\\qc\\fs32 Agency\\par"
-                            "\\pard\\plain\\fs20 A broker\\tab owes {\\i fiduciary} duties to the "
-                            "\\'93principal\\'94.\\par }\\par }ignored";
-const QString Whole =
-    QStringLiteral("Agency\nA broker\towes fiduciary duties to the \u201Cprincipal\u201D.\n");
-
-} // namespace
-
-void TestRichTextView::plainTextPositionsMatchTheSelection() {
-    RichTextView view;
-    view.setTextRtf(Heading);
-    const QString text = view.text();
-    QCOMPARE(text, Whole);
-    for (const QString& word : {QStringLiteral("fiduciary"), QStringLiteral("principal")}) {
-        view.setSelStart(static_cast<int>(text.indexOf(word)));
-        view.setSelLength(static_cast<int>(word.size()));
-        QCOMPARE(view.selText(), word);
-        QCOMPARE(view.selStart(), text.indexOf(word));
-        QCOMPARE(view.selLength(), word.size());
-    }
-    view.setSelStart(2);
-    view.setSelLength(10);
-    QCOMPARE(view.selText(), QStringLiteral("ency\nA bro"));
-    view.setSelStart(10000);
-    QCOMPARE(view.selStart(), text.size());
-    QCOMPARE(view.selLength(), 0);
-}
-
-void TestRichTextView::readOnlyViewPassesOnlyTheCopyKey() {
-    RichTextView view;
-    view.setTextRtf(Heading);
-    view.setCopyOnly(true);
-    view.setSelStart(0);
-    view.setSelLength(6);
-    QTest::keyClicks(&view, QStringLiteral("xyz"));
-    QTest::keyClick(&view, Qt::Key_Return);
-    QTest::keyClick(&view, Qt::Key_V, Qt::ControlModifier);
-    QTest::keyClick(&view, Qt::Key_Backspace);
-    QVERIFY(view.text().startsWith(QStringLiteral("Agency\nA broker")));
-    QApplication::clipboard()->clear();
-    QTest::keyClick(&view, Qt::Key_C, Qt::ControlModifier);
-    QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("Agency"));
-
-    view.setCopyOnly(false);
-    view.setSelStart(0);
-    QTest::keyClicks(&view, QStringLiteral("xy"));
-    QVERIFY(view.text().startsWith(QStringLiteral("xyAgency")));
-}
-
-void TestRichTextView::saveThenLoadBringsTheDocumentBack() {
-    StudyFolder folder;
-    RichTextView notebook;
-    notebook.setTextRtf(Heading);
-    QVERIFY(notebook.saveFile(QStringLiteral("TesseraNoteBook.RTF")));
-    RichTextView reopened;
-    QVERIFY(reopened.loadFile(QStringLiteral("TesseraNoteBook.RTF")));
-    QCOMPARE(reopened.text(), notebook.text());
-    QCOMPARE(reopened.textRtf(), notebook.textRtf());
-    QVERIFY(!reopened.loadFile(QStringLiteral("missing.rtf")));
-}
-
-void TestRichTextView::printsTheSelectionOrTheWholeText() {
-    RichTextView view;
-    view.setTextRtf(Heading);
-    const QString broker = QStringLiteral("A broker");
-    const struct {
-        std::optional<PrintChoice> choice; // none: the dialog is cancelled
-        std::optional<int> failAfterLines;
-        QStringList printed;
-        int jobsEnded;
-    } cases[] = {
-        {PrintChoice{2, true}, std::nullopt, {broker, broker}, 1},
-        {PrintChoice{1, false}, std::nullopt, {Whole}, 1},
-        // A printer that fails stops the copies; the job is not sent.
-        {PrintChoice{3, false}, 0, {}, 0},
-        {std::nullopt, std::nullopt, {}, 0},
-    };
-    for (const auto& c : cases) {
-        view.setSelStart(7);
-        view.setSelLength(8);
-        RecordingPrinter printer;
-        printer.dialogAnswer = c.choice;
-        printer.failAfterLines = c.failAfterLines;
-        PrintRichText(view, printer);
-        QCOMPARE(printer.dialogsShown, std::vector<PrintDialogKind>{PrintDialogKind::RichText});
-        QStringList documents;
-        for (const auto& document : printer.documents)
-            documents << document.text;
-        QCOMPARE(documents, c.printed);
-        QCOMPARE(printer.jobsEnded, c.jobsEnded);
-    }
-}
-
-void TestRichTextView::rightMarginSetsTheWrapWidth() {
-    RichTextView view;
-    view.setRightMargin(6000);
-    QCOMPARE(view.lineWrapMode(), QTextEdit::FixedPixelWidth);
-    QCOMPARE(view.lineWrapColumnOrWidth(), 400);
-    view.setRightMargin(0);
-    QCOMPARE(view.lineWrapMode(), QTextEdit::WidgetWidth);
-}
 
 } // namespace tessera
 

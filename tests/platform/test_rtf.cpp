@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QFont>
 #include <QImage>
+#include <QRegularExpression>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -212,13 +213,9 @@ QByteArray contentsOf(const QString& fileName) {
 }
 
 // The text without whitespace, the byte order mark, or the mark that stands for a picture.
-QString withoutWhitespace(const QString& text) {
-    QString kept;
-    for (QChar ch : text) {
-        if (!ch.isSpace() && ch != QChar(0xFEFF) && ch != QChar(QChar::ObjectReplacementCharacter))
-            kept += ch;
-    }
-    return kept;
+std::string withoutWhitespace(QString text) {
+    static const QRegularExpression ignored(QStringLiteral("[\\s\\x{FEFF}\\x{FFFC}]"));
+    return text.remove(ignored).toStdString();
 }
 
 // Files written by real word processors (LibreOffice, AbiWord, pandoc), each beside the text
@@ -242,8 +239,7 @@ TEST(Rtf, WordProcessorFilesReadAsLibreOfficeReadsThemAndSurviveSaveThenLoad) {
         ASSERT_FALSE(extracted.isEmpty());
         QTextDocument original;
         readRtf(rtf, original);
-        EXPECT_EQ(withoutWhitespace(plainTextOf(original)).toStdString(),
-                  withoutWhitespace(extracted).toStdString());
+        EXPECT_EQ(withoutWhitespace(plainTextOf(original)), withoutWhitespace(extracted));
         ReadAndWrittenBack(rtf);
         for (int round = 0; round < 40; ++round) {
             std::string damaged = rtf.substr(0, next(static_cast<uint32_t>(rtf.size())));
@@ -257,9 +253,18 @@ TEST(Rtf, WordProcessorFilesReadAsLibreOfficeReadsThemAndSurviveSaveThenLoad) {
     }
 }
 
-TEST(Rtf, EmptySelectionGivesThePrologueInTheCursorsFormat) {
+// A selection writes only itself; none, the prologue in the cursor's format.
+TEST(Rtf, WritesTheSelection) {
     QTextDocument document;
+    readRtf("{\\rtf1{\\fonttbl{\\f0 Arial;}}\\f0 first\\par {\\b second} para\\par third}",
+            document);
     QTextCursor cursor(&document);
+    cursor.setPosition(8);
+    cursor.setPosition(18, QTextCursor::KeepAnchor);
+    QTextDocument selection;
+    readRtf(writeRtf(cursor), selection);
+    EXPECT_EQ(Rendered(selection), "#cond[b 12 Arial] para[ 12 Arial]#");
+    cursor.setPosition(0);
     QTextCharFormat format;
     format.setFontFamilies(QStringList{QStringLiteral("Arial")});
     format.setFontPointSize(11.5);
@@ -267,18 +272,6 @@ TEST(Rtf, EmptySelectionGivesThePrologueInTheCursorsFormat) {
     cursor.setCharFormat(format);
     EXPECT_EQ(writeRtf(cursor), "{\\rtf1\\ansi\\deff0\\deflang1033{\\fonttbl{\\f0\\fswiss Arial;}}"
                                 "\r\n\\viewkind4\\uc1\\pard\\b\\f0\\fs23 \r\n}\r\n");
-}
-
-TEST(Rtf, WritesOnlyTheSelection) {
-    QTextDocument document;
-    readRtf("{\\rtf1 first\\par {\\b second} para\\par third}", document);
-    QTextCursor cursor(&document);
-    cursor.setPosition(8);
-    cursor.setPosition(18, QTextCursor::KeepAnchor);
-    QTextDocument selection;
-    readRtf(writeRtf(cursor), selection);
-    EXPECT_EQ(plainTextOf(selection), QStringLiteral("cond para\n"));
-    EXPECT_EQ(selection.firstBlock().begin().fragment().charFormat().fontWeight(), QFont::Bold);
 }
 
 } // namespace
