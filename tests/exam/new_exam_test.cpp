@@ -18,18 +18,21 @@ struct Builder : StudyFixture {
     Builder() { FillSmallCourse(state, {90, 12, 100, 100, 100, 100, 100, 100, 94}, {150, 140}); }
 };
 
-// The builder as it stands: the selected exam and the three captions ('-' behind a disabled
-// one), the rows of time and length ('-' when the lists are disabled), the topics checked ('-'
-// when disabled), the pool, the approach and order, and '!' when "&Take Exam" is disabled.
+// The builder as it stands: the selected exam and the three captions' drill ('-' behind a
+// disabled one), the rows of time and length ('-' when the lists are disabled), the topics
+// checked ('-' when disabled), the pool's count, the approach and order, and '!' when "&Take
+// Exam" is disabled.
 std::string Shown(const ExamSetForm& form) {
     std::string text = std::to_string(form.selectedExam());
-    for (int e = 0; e < 3; ++e)
-        text += "|" + form.examCaption(e) + (form.examEnabled(e) ? "" : "-");
+    for (int e = 0; e < 3; ++e) {
+        const std::string& caption = form.examCaption(e);
+        text += "|" + caption.substr(caption.rfind(" - ") + 3) + (form.examEnabled(e) ? "" : "-");
+    }
     text += "|" + std::to_string(form.timeRow()) + "/" + std::to_string(form.itemRow()) +
             (form.listsEnabled() ? " " : "- ");
     for (int t = 0; t < TopicCount; ++t)
         text += form.topicChecked(t) ? std::to_string(t + 1) : "";
-    return text + (form.topicsEnabled() ? "|" : "-|") + form.poolText() +
+    return text + (form.topicsEnabled() ? "|" : "-|") + form.poolText().substr(24) +
            (form.structured() ? "|structured" : "|traditional") +
            (form.scrambled() ? " scrambled" : "") + (form.takeEnabled() ? "" : "!");
 }
@@ -40,22 +43,21 @@ TEST(ExamSetForm, OpensOnTheFirstExamNotFinishedWithItsValues) {
         std::string shown;
     } cases[] = {
         {{0, 0, 0},
-         "0|Exam I - Author Prepared - 1st Drill|Exam II - Author Prepared - 1st Drill|Custom "
-         "Built by You - 1st Drill|38/149- 123456789-|Items Available in Pool:  796|traditional "
-         "scrambled"},
+         "0|1st Drill|1st Drill|1st Drill|38/149- 123456789-|  796|traditional scrambled"},
         {{3, 2, 1},
-         "1|Exam I - Author Prepared - Finished-|Exam II - Author Prepared - Last Drill|Custom "
-         "Built by You - 2nd Drill|38/139- 123456789-|Items Available in Pool:  796|traditional "
-         "scrambled"},
+         "1|Finished-|Last Drill|2nd Drill|38/139- 123456789-|  796|traditional scrambled"},
     };
     for (const auto& c : cases) {
         Builder b;
         std::copy(c.takes.begin(), c.takes.end(), b.state.TakeCounts.begin() + 10);
         EXPECT_EQ(Shown(ExamSetForm(b.state)), c.shown);
     }
-    EXPECT_EQ(BuilderRowText(5) + BuilderRowText(255), "   5 255");
     Builder b;
-    EXPECT_EQ(TopicCaption(b.state, 2), " 2   Preliminary Evaluation");
+    const ExamSetForm form(b.state);
+    EXPECT_EQ(form.examCaption(1) + form.poolText() + BuilderRowText(5) + BuilderRowText(255) +
+                  TopicCaption(b.state, 2),
+              "Exam II - Author Prepared - 1st DrillItems Available in Pool:  796   5 255 2   "
+              "Preliminary Evaluation");
 }
 
 TEST(ExamSetForm, PoolGuardsAndCustomValuesKeptWhileAnAuthorExamIsSelected) {
@@ -65,31 +67,21 @@ TEST(ExamSetForm, PoolGuardsAndCustomValuesKeptWhileAnAuthorExamIsSelected) {
     b.state.ExamItemCount = 40;
     b.state.ExamMinutes = 255;
     ExamSetForm form(b.state);
-    const std::string captions = "|Exam I - Author Prepared - Finished-|Exam II - Author Prepared "
-                                 "- Finished-|Custom Built by You - 1st Drill|";
-    EXPECT_EQ(Shown(form), "2" + captions +
-                               "50/39 123456789|Items Available in Pool:  796|traditional "
-                               "scrambled");
-
+    const std::string captions = "|Finished-|Finished-|1st Drill|";
+    EXPECT_EQ(Shown(form), "2" + captions + "50/39 123456789|  796|traditional scrambled");
     // 300 questions, then a single topic of 12: the number is pulled down to the pool.
     form.selectItemRow(299);
     for (int i = 0; i < TopicCount; ++i)
         form.setTopic(i, i == 1);
     EXPECT_EQ(form.itemRow(), 11);
     form.setTopic(1, false);
-    EXPECT_EQ(Shown(form),
-              "2" + captions + "50/11 |Items Available in Pool:    0|traditional scrambled!");
-
+    EXPECT_EQ(Shown(form), "2" + captions + "50/11 |    0|traditional scrambled!");
     // To an author-prepared exam and back: items and time return, topics from ExamTopics.
     form.selectTimeRow(0);
     form.selectExam(0);
-    EXPECT_EQ(Shown(form), "0" + captions +
-                               "38/149- 123456789-|Items Available in Pool:  796|traditional "
-                               "scrambled");
+    EXPECT_EQ(Shown(form), "0" + captions + "38/149- 123456789-|  796|traditional scrambled");
     form.selectExam(2);
-    EXPECT_EQ(Shown(form), "2" + captions +
-                               "0/11 123456789|Items Available in Pool:  796|traditional "
-                               "scrambled");
+    EXPECT_EQ(Shown(form), "2" + captions + "0/11 123456789|  796|traditional scrambled");
 }
 
 TEST(ExamSetForm, TakeLeavesTheChoiceInTheSession) {
@@ -111,19 +103,16 @@ TEST(ExamSetForm, TakeLeavesTheChoiceInTheSession) {
 TEST(GapSort, SortsRowsOneToNAndMovesParallelTables) {
     for (int n : {0, 1, 2, 7, 64, 300}) {
         std::vector<int> keys(n + 1), twin(n + 1);
-        for (int i = 1; i <= n; ++i) {
-            keys[i] = (i * 7919) % 1009; // distinct, scattered
-            twin[i] = -keys[i];
-        }
+        for (int i = 1; i <= n; ++i)
+            twin[i] = -(keys[i] = (i * 7919) % 1009); // distinct, scattered
+        const auto exchange = [&](int i, int j) {
+            std::swap(keys[i], keys[j]);
+            std::swap(twin[i], twin[j]);
+        };
         GapSort(
-            n, [&](int i, int j) { return keys[i] > keys[j]; },
-            [&](int i, int j) {
-                std::swap(keys[i], keys[j]);
-                std::swap(twin[i], twin[j]);
-            });
-        EXPECT_TRUE(std::is_sorted(keys.begin() + 1, keys.end())) << n;
-        for (int i = 0; i <= n; ++i)
-            EXPECT_EQ(twin[i], -keys[i]); // row 0 is never touched
+            n, [&](int i, int j) { return keys[i] > keys[j]; }, exchange);
+        EXPECT_TRUE(keys[0] == 0 && std::is_sorted(keys.begin() + 1, keys.end())) << n;
+        EXPECT_TRUE(std::ranges::equal(twin, keys, [](int t, int k) { return t == -k; }));
     }
 }
 
