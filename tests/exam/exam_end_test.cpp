@@ -79,42 +79,35 @@ struct Ending : StudyFixture {
     int refreshed = 0;
 };
 
-// An answer not committed with Next counts as unanswered, and is gone after the save.
-TEST(ExamEnd, OnlyCommittedAnswersAreFiledAndTheTakeCounterRises) {
-    Ending nothing;
-    nothing.Start(5).pressAnswer(0);
-    EXPECT_EQ(nothing.Filed(nothing.Close(true)),
-              "|1 records, 0 exam|log 0 0|takes 0|suspended 0 0|0 1");
-    EXPECT_EQ(nothing.state.ExamPosition, 0);
+TEST(ExamEnd, NothingCommittedLeavesNoRecordAndNoResults) {
+    Ending e;
+    e.Start(5).pressAnswer(0); // answered, never committed
+    EXPECT_EQ(e.Filed(e.Close(true)), "|1 records, 0 exam|log 0 0|takes 0|suspended 0 0|0 1");
+    EXPECT_EQ(e.state.ExamPosition, 0);
+}
 
+// The log entry and the take go with the record: a save that fails files none of them, and the
+// exam finished again files each once. An answer not committed with Next counts as unanswered
+// and is gone after the save.
+TEST(ExamEnd, AFailedSaveFilesNeitherLogNorTakeUntilTheExamIsFinishedAgain) {
     Ending e;
     e.Start(10);
     e.Answer(8, 0);
     e.session->pressAnswer(e.state.ExamKey[e.state.ExamPosition] - 1);
-    EXPECT_EQ(e.Filed(e.Close(true)),
-              "saved results|2 records, 1 exam|log 10 0|takes 1|suspended 0 0|1 1");
-    EXPECT_TRUE(e.dialogs.messages()[0].text.startsWith(QStringLiteral("You failed to answer 2 ")));
-    EXPECT_FLOAT_EQ(ReadProgressHeader().LogScores[1], 0.8f);
-    EXPECT_FLOAT_EQ(e.state.ExamScore, 0.8f);
-    EXPECT_EQ(e.state.ExamAnswers[9] * 10 + e.state.TakeCounts[10], 1);
-}
-
-// The log entry and the take go with the record: a save that fails files none of them, and the
-// exam finished again files each once.
-TEST(ExamEnd, AFailedSaveFilesNeitherLogNorTakeUntilTheExamIsFinishedAgain) {
-    Ending e;
-    e.Start(10);
-    e.Answer(9, 1);
     ExamEndOutcome end;
     {
         FaultyFiles full(FaultyFiles::Fault::DiskFull, 1);
         end = e.Close(true);
     }
+    EXPECT_TRUE(e.dialogs.messages()[0].text.startsWith(QStringLiteral("You failed to answer 2 ")));
     EXPECT_EQ(e.Filed(end) + std::to_string(e.state.TakeCounts[10]),
-              "|1 records, 0 exam|log 0 0|takes 0|suspended 0 0|1 00");
-    end = EndExam(e.state, true, 10, e.clock.now(), e.dialogs, {});
+              "|1 records, 0 exam|log 0 0|takes 0|suspended 0 0|1 10");
+    end = EndExam(e.state, true, 8, e.clock.now(), e.dialogs, {});
     EXPECT_EQ(e.Filed(end) + std::to_string(e.state.TakeCounts[10]),
-              "saved results|2 records, 1 exam|log 10 0|takes 1|suspended 0 0|1 01");
+              "saved results|2 records, 1 exam|log 10 0|takes 1|suspended 0 0|1 11");
+    EXPECT_FLOAT_EQ(ReadProgressHeader().LogScores[1], 0.8f);
+    EXPECT_FLOAT_EQ(e.state.ExamScore, 0.8f);
+    EXPECT_EQ(e.state.ExamAnswers[9], 0);
 }
 
 TEST(ExamEnd, BelowThirtyPercentIsRemovedButLoggedAndAReviewTestSurvives) {

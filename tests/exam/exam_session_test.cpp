@@ -179,20 +179,6 @@ TEST(ExamSession, ClockWarnsAtTwoMinutesAndExpiresAtTheLimit) {
     EXPECT_DOUBLE_EQ(exam.state.ExamElapsed, 10 / 1440.0); // exactly the limit
 }
 
-TEST(ExamSession, RetakeKeepsItsPositionsAndStartsWithNoAnswer) {
-    Exam exam(2);
-    exam.state.ExamType = 5;
-    exam.state.ExamItems[1] = 4;
-    exam.state.ExamItems[2] = 2;
-    exam.state.ExamAnswers[1] = 3;
-    exam.state.ExamAnswered[1] = -1;
-    ExamSession& s = exam.open();
-    EXPECT_EQ(s.windowCaption() + s.answerLabel(), "Screening Exam I, Item 1 of 2Your Answer:  ");
-    EXPECT_EQ(exam.state.ExamItems[1], 4);
-    EXPECT_EQ(exam.state.ExamAnswers[1] + exam.state.ExamAnswered[1], 0);
-    EXPECT_EQ(exam.state.ExamKey[1], 4); // item 4 of exam I, not position 1's old item
-}
-
 TEST(ExamSession, ResumeListsCommittedAnswersAndShowsTheFirstRemaining) {
     Exam exam;
     SessionState& state = exam.state;

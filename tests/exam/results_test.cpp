@@ -156,18 +156,5 @@ TEST(ResultsPrint, HeadingRowsNoteAndSummaryWordForWordOnEachCopy) {
     EXPECT_EQ(printer.jobsEnded, 1);
 }
 
-TEST(ResultsPrint, CancelPrintsNothingAndAFailingPrinterStopsTheCopies) {
-    RecordingPrinter printer;
-    printer.dialogAnswer.reset();
-    EXPECT_FALSE(PrintResults(printer, Exam(10)));
-    EXPECT_TRUE(printer.lines.empty());
-
-    printer.dialogAnswer = PrintChoice{3, false};
-    printer.failAfterLines = 20;
-    EXPECT_TRUE(PrintResults(printer, Exam(10)));
-    EXPECT_EQ(printer.lines.size(), 20U);
-    EXPECT_EQ(printer.jobsEnded, 0);
-}
-
 } // namespace
 } // namespace tessera

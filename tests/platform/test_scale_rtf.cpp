@@ -40,18 +40,6 @@ TEST(ScaleRtf, ScalesTheFourWordsBehindTheFirstParagraph) {
         EXPECT_EQ(scaled(c.before), c.after) << c.why;
 }
 
-TEST(RichTextDocuments, JoinPrologueFragmentAndClosing) {
-    const std::string header = "{\\rtf1 ";
-    EXPECT_EQ(HelpDocument(header, "Help}"), "{\\rtf1 Help}");
-    EXPECT_EQ(DiscussionDocument(header, "Text"), "{\\rtf1 Text\r\n\\par }");
-    EXPECT_EQ(GlossaryDefinitionDocument(header, "Def"), "{\\rtf1 Def\\par }");
-    EXPECT_EQ(GlossaryTermDocument(header, "Term"), "{\\rtf1 \\b\\qc Term\\par }");
-    EXPECT_EQ(QuestionDocument(header, "Q?"), "{\\rtf1 Q?\\par }");
-    EXPECT_EQ(QuestionWithExplanationDocument(header, "Q?", "Because."),
-              "{\\rtf1 Q?" + std::string(15, ' ') + std::string(25, '\x97') +
-                  "\\par \r\nBecause.\\par }");
-}
-
 TEST(RichTextDocuments, KeepBothVersionsForTheWindowState) {
     const RtfVersions versions = RtfVersions::of(Prologue + "\\fs24 a}");
     EXPECT_EQ(versions.forWindow(false), Prologue + "\\fs24 a}");
