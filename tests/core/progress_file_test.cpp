@@ -98,16 +98,11 @@ class ProgressFileTest : public ::testing::Test {
 protected:
     void SetUp() override {
         FillCatalogue(state);
-        state.CurrentTopic = 3;
+        std::tie(state.CurrentTopic, state.TestType, state.TestItemCount, state.TestPosition,
+                 state.ExamKind, state.ExamType, state.ExamItemCount, state.ExamPosition) =
+            std::tuple(3, 1, 2, 1, 2, 2, 2, 1);
         state.TakeCounts[3] = 2;
-        state.TestType = 1;
-        state.TestItemCount = 2;
-        state.TestPosition = 1;
         state.TestItems = {0, 5, 6};
-        state.ExamKind = 2;
-        state.ExamType = 2;
-        state.ExamItemCount = 2;
-        state.ExamPosition = 1;
         state.ExamItems = {0, 11, 12};
         state.ExamKey = {0, 1, 2};
         state.ExamAnswers = {0, 1, 0};
@@ -120,11 +115,8 @@ protected:
 // A history of finished tests and exams (records 2, 3, 4 and 6), with the test of record 5 and
 // the exam of record 7 suspended.
 const std::string Starting = [] {
-    ProgressHeader header;
-    header.UserName = std::string("Pat Doe").append(23, ' ');
-    header.PassingGrade = 70;
-    header.SuspendedTestRecord = 5;
-    header.SuspendedExamRecord = 7;
+    ProgressHeader header = StartedHeader();
+    std::tie(header.SuspendedTestRecord, header.SuspendedExamRecord) = std::tuple(5, 7);
     return File({EncodeHeader(header), EncodeReviewTest(TestOfTopic(1)), EncodeExam(ExamOfKind(1)),
                  EncodeReviewTest(TestOfTopic(2)), EncodeReviewTest(TestOfTopic(3, 2)),
                  EncodeExam(ExamOfKind(2)), EncodeExam(ExamOfKind(3, 1))});

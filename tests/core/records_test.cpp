@@ -117,12 +117,10 @@ TEST(Records, AnswerCodeFollowsTheTableBothWays) {
             for (bool wrong : {false, true})
                 for (bool unsure : {false, true}) {
                     const uint8_t code = EncodeAnswerCode(answer, wrong, count, unsure);
-                    const auto decoded = DecodeAnswerCode(code);
-                    ASSERT_TRUE(decoded) << int(code);
-                    EXPECT_EQ(decoded->answer, answer);
-                    EXPECT_EQ(decoded->right, !wrong);
-                    EXPECT_EQ(decoded->answerCount, count);
-                    EXPECT_EQ(decoded->unsure, unsure);
+                    const auto back = DecodeAnswerCode(code).value();
+                    EXPECT_EQ((Ints{back.answer, back.right, back.answerCount, back.unsure}),
+                              (Ints{answer, !wrong, count, unsure}))
+                        << int(code);
                 }
     for (int code : {0, 31, 40, 63, 94, 200, 255})
         EXPECT_FALSE(DecodeAnswerCode(static_cast<uint8_t>(code))) << code;
@@ -133,26 +131,19 @@ TEST(Records, AnswerCodeFollowsTheTableBothWays) {
 TEST(Records, ReviewTestGoesToItsRecordAndComesBack) {
     SessionState state;
     FillCatalogue(state);
-    state.CurrentTopic = 6;
-    state.TestType = 2;
-    state.TestItemCount = 4;
-    state.TestPosition = 3;
-    state.TestFurthest = 3;
-    state.TestScore = 0.5f;
+    std::tie(state.CurrentTopic, state.TestType, state.TestItemCount, state.TestPosition,
+             state.TestFurthest, state.TestScore, state.TestElapsed, state.ScrambleQuestions) =
+        std::tuple(6, 2, 4, 3, 3, 0.5f, 90.0 / MinutesPerDay, true);
     state.TestTally = {0, 1, 1, 6, 0};
     state.WishesLeft = {0, 1, 0, 1};
-    state.TestElapsed = 90.0 / MinutesPerDay;
-    state.ScrambleQuestions = true;
     state.TestItems = {0, 401, 402, 403, 404, 999};
     state.TestMisses = {0, 0, 2, 1, 0};
     ReviewTestRecord record;
     record.Items[5] = 77; // past the count: kept as the buffer held it
     FillReviewTestRecord(state, "11-19-2026", record);
-    EXPECT_EQ(record.Topic, 6);
-    EXPECT_EQ(record.TriesRatio, 1.5f);
-    EXPECT_EQ(record.MinutesUsed, 90.0f);
-    EXPECT_EQ(record.Scrambled, 1);
-    EXPECT_EQ(record.Items[5], 77);
+    EXPECT_EQ(std::tuple(record.Topic, record.TriesRatio, record.MinutesUsed, record.Scrambled,
+                         record.Items[5]),
+              std::tuple(6, 1.5f, 90.0f, 1, 77));
 
     SessionState restored;
     FillCatalogue(restored);
@@ -172,11 +163,8 @@ TEST(Records, ReviewTestGoesToItsRecordAndComesBack) {
 TEST(Records, ExamSaveWipesUncommittedPositionsAndRestores) {
     SessionState state;
     FillCatalogue(state);
-    state.ExamKind = 2;
-    state.ExamType = 5;
-    state.ExamItemCount = 4;
-    state.ExamPosition = 2;
-    state.ExamStructured = 1;
+    std::tie(state.ExamKind, state.ExamType, state.ExamItemCount, state.ExamPosition,
+             state.ExamStructured) = std::tuple(2, 5, 4, 2, 1);
     state.ExamTopics[4] = false;
     state.ExamItems = {0, 11, 12, 13, 14};
     state.ExamKey = {0, 1, 2, 3, 4};
@@ -186,15 +174,12 @@ TEST(Records, ExamSaveWipesUncommittedPositionsAndRestores) {
     state.ExamUnsure = {0, 0, 63, 63, 0};
     ExamRecord record;
     FillExamRecord(state, "01-02-2027", record);
-    EXPECT_EQ((std::array<uint8_t, 5>{record.AnswerCodes[1], record.AnswerCodes[2],
-                                      record.AnswerCodes[3], record.AnswerCodes[4], record.Kind}),
-              (std::array<uint8_t, 5>{1, 3 + 5 + 10 + 63, 0, 4 + 20, 11}));
-    EXPECT_EQ(record.AnsweredCount, 3);
-    EXPECT_EQ(record.UnsureCount, 1);
-    EXPECT_FLOAT_EQ(state.ExamScore, 0.5f) << "an uncommitted item counts as missed";
-    EXPECT_EQ(state.ExamUnsure[3], 0);
-    EXPECT_EQ(record.Topics[4], 0);
-    EXPECT_EQ(record.TimeLimit, 195);
+    // An uncommitted item counts as missed and loses its unsure mark.
+    EXPECT_EQ((Ints{record.AnswerCodes[1], record.AnswerCodes[2], record.AnswerCodes[3],
+                    record.AnswerCodes[4], record.Kind, record.AnsweredCount, record.UnsureCount,
+                    record.Topics[4], record.TimeLimit, state.ExamUnsure[3]}),
+              (Ints{1, 3 + 5 + 10 + 63, 0, 4 + 20, 11, 3, 1, 0, 195, 0}));
+    EXPECT_FLOAT_EQ(state.ExamScore, 0.5f);
 
     SessionState restored;
     FillCatalogue(restored);
