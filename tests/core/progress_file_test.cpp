@@ -83,14 +83,25 @@ std::string Sketch(const std::string& file) {
     return out.str();
 }
 
+// The session as the next start restores it from the progress file.
+SessionState Restarted() {
+    SessionState state;
+    FillCatalogue(state);
+    ApplyHeader(ReadProgressHeader(), state);
+    RestoreSuspended(state);
+    return state;
+}
+
 int status(SaveStatus saved) {
     return static_cast<int>(saved);
 }
 
+using S = SessionState;
+
 struct Step {
     const char* what;
-    std::function<int(SessionState&)> run; // the record written, or the status
-    std::string after;                     // the result, then the file's sketch
+    std::function<int(S&)> run; // the record written, or the status
+    std::string after;          // the result, then the file's sketch
 };
 
 // A session with a review test and an exam running, each at its first item.
@@ -124,56 +135,25 @@ const std::string Starting = [] {
 
 struct Operation {
     const char* name;
-    const char* file;
     std::function<void(SessionState&)> run;
+    const char* file = ProgressFile; // the file it writes
 };
 
+const LogEntry Logged{3, .75F};
+const ExamFiling Filed{LogEntry{10, .8F}, true};
 const Operation Operations[] = {
-    {"SaveReviewTest, broken off", ProgressFile,
-     [](SessionState& s) { SaveReviewTest(s, false, Today); }},
-    {"SaveReviewTest, finished and logged", ProgressFile,
-     [](SessionState& s) {
-         SaveReviewTest(s, true, Today, LogEntry{3, 0.75F});
-     }},
-    {"SaveReviewTest, a new test", ProgressFile,
-     [](SessionState& s) {
-         s.SuspendedTestRecord = 0;
-         SaveReviewTest(s, false, Today);
-     }},
-    {"SaveExam, broken off", ProgressFile, [](SessionState& s) { SaveExam(s, false, Today); }},
-    {"SaveExam, finished, logged and counted", ProgressFile,
-     [](SessionState& s) {
-         SaveExam(s, true, Today, {LogEntry{10, 0.8F}, true});
-     }},
-    {"AppendProgressLog", ProgressFile, [](SessionState&) { AppendProgressLog(11, 0.5F, Today); }},
-    {"SavePreferences", ProgressFile,
-     [](SessionState& s) {
-         s.PassingGrade = 75;
-         SavePreferences(s);
-     }},
-    {"WriteProgressHeader", ProgressFile,
-     [](SessionState&) {
-         ProgressHeader header = ReadProgressHeader();
-         header.TakeCounts[10] = 1;
-         WriteProgressHeader(header);
-     }},
-    {"RewriteProgressFile, review card", ProgressFile,
-     [](SessionState& s) {
-         RewriteProgressFile(s, std::vector<ReviewTestRecord>{TestOfTopic(2)}, Today);
-     }},
-    {"RewriteProgressFile, exam card", ProgressFile,
-     [](SessionState& s) {
-         RewriteProgressFile(s, std::vector<ExamRecord>{ExamOfKind(2), ExamOfKind(1)}, Today);
-     }},
-    {"RemoveProgressRecord", ProgressFile,
-     [](SessionState& s) { RemoveProgressRecord(s, 6, Today); }},
-    {"Journal of a running test", JournalFile,
-     [](SessionState& s) { JournalReviewTest(s, Today); }},
-    {"Journal replayed at the next start", ProgressFile,
-     [](SessionState& s) {
-         JournalReviewTest(s, Today);
-         ReplayJournal(s, Today);
-     }},
+    {"test broken off", [](S& s) { SaveReviewTest(s, false, Today); }},
+    {"test finished, logged", [](S& s) { SaveReviewTest(s, true, Today, Logged); }},
+    {"exam broken off", [](S& s) { SaveExam(s, false, Today); }},
+    {"exam finished, logged, counted", [](S& s) { SaveExam(s, true, Today, Filed); }},
+    {"a new test", [](S& s) { s.SuspendedTestRecord = 0, SaveReviewTest(s, false, Today); }},
+    {"a log entry", [](S&) { AppendProgressLog(11, 0.5F, Today); }},
+    {"preferences", [](S& s) { s.PassingGrade = 75, SavePreferences(s); }},
+    {"the review card", [](S& s) { RewriteProgressFile(s, std::vector{TestOfTopic(2)}, Today); }},
+    {"the exam card", [](S& s) { RewriteProgressFile(s, std::vector{ExamOfKind(2)}, Today); }},
+    {"a record taken out", [](S& s) { RemoveProgressRecord(s, 6, Today); }},
+    {"a journal", [](S& s) { JournalReviewTest(s, Today); }, JournalFile},
+    {"a journal replayed", [](S& s) { JournalReviewTest(s, Today), ReplayJournal(s, Today); }},
 };
 
 struct Outcome {
@@ -188,10 +168,7 @@ struct Outcome {
 Outcome RunWith(const Operation& operation, Fault fault, int at) {
     StudyFolder folder;
     folder.write(ProgressFile, Starting);
-    SessionState state;
-    FillCatalogue(state);
-    ApplyHeader(ReadProgressHeader(), state);
-    RestoreSuspended(state);
+    SessionState state = Restarted();
     state.TestPosition = 3;
     state.ExamPosition = 2;
     Outcome outcome;
@@ -225,34 +202,29 @@ TEST_F(ProgressFileTest, RecordsGoWhereTheSuspendedNumbersSay) {
     state.SuspendedTestRecord = 2;
     state.ExamAnswered[2] = 1;
     const auto save = [](bool finished, int position) {
-        return [=](SessionState& s) {
+        return [=](S& s) {
             s.TestPosition = static_cast<int16_t>(position);
             return SaveReviewTest(s, finished, Today).recordNumber;
         };
     };
-    const auto exams = [](std::vector<ExamRecord> kept) {
-        return [=](SessionState& s) { return status(RewriteProgressFile(s, kept, Today)); };
+    const auto kept = [](auto records) {
+        return [=](S& s) { return status(RewriteProgressFile(s, records, Today)); };
     };
     const auto removed = [](int record) {
-        return [=](SessionState& s) { return status(RemoveProgressRecord(s, record, Today)); };
+        return [=](S& s) { return status(RemoveProgressRecord(s, record, Today)); };
     };
     const Step steps[] = {
         {"a number at an exam: the test is new", save(false, 1), "4: 4/0 e1@0 t2@0 t3@1"},
         {"broken off again: the same record", save(false, 2), "4: 4/0 e1@0 t2@0 t3@2"},
         {"finished in place", save(true, 2), "4: 0/0 e1@0 t2@0 t3@2"},
         {"the next test is new", save(false, 1), "5: 5/0 e1@0 t2@0 t3@2 t3@1"},
-        {"the exam card keeps two exams, first", exams({ExamOfKind(3), ExamOfKind(4)}),
+        {"the exam card keeps two exams, first", kept(std::vector{ExamOfKind(3), ExamOfKind(4)}),
          "0: 6/0 e3@0 e4@0 t2@0 t3@2 t3@1"},
-        {"an exam broken off",
-         [](SessionState& s) { return SaveExam(s, false, Today).recordNumber; },
+        {"an exam broken off", [](S& s) { return SaveExam(s, false, Today).recordNumber; },
          "7: 6/7 e3@0 e4@0 t2@0 t3@2 t3@1 e2@1"},
         {"the suspended test taken out", removed(6), "0: 0/6 e3@0 e4@0 t2@0 t3@2 e2@1"},
         {"the review card keeps three tests, first",
-         [](SessionState& s) {
-             const std::vector<ReviewTestRecord> kept{TestOfTopic(4), TestOfTopic(7),
-                                                      TestOfTopic(1)};
-             return status(RewriteProgressFile(s, kept, Today));
-         },
+         kept(std::vector{TestOfTopic(4), TestOfTopic(7), TestOfTopic(1)}),
          "0: 0/7 t4@0 t7@0 t1@0 e3@0 e4@0 e2@1"},
         {"a test taken out", removed(3), "0: 0/6 t4@0 t1@0 e3@0 e4@0 e2@1"},
     };
@@ -266,9 +238,8 @@ TEST_F(ProgressFileTest, RecordsGoWhereTheSuspendedNumbersSay) {
     }
     const std::string file = folder.read(ProgressFile);
     EXPECT_EQ(RecordsOf(file).back().substr(1, 10), "11-19-2026");
-    header.SuspendedTestRecord = 0;
-    header.SuspendedExamRecord = 6;
-    header.TakeCounts[3] = 2;
+    std::tie(header.SuspendedTestRecord, header.SuspendedExamRecord, header.TakeCounts[3]) =
+        std::tuple(0, 6, 2);
     EXPECT_EQ(file.substr(0, RecordSize), RecordsOf(File({EncodeHeader(header)}))[0]);
     EXPECT_FALSE(folder.exists(NewProgressFile));
 }
@@ -349,28 +320,19 @@ TEST_P(RunJournalTest, WholeJournalsBecomeTheSuspendedRunAndOthersAreDropped) {
     ASSERT_TRUE(JournalExam(state, Today));
     EXPECT_EQ(state.ExamAnswers[2], 3) << "journaling leaves the running exam alone";
     // Two more answers, then the machine stops before any save.
-    state.TestPosition = 2;
+    std::tie(state.TestPosition, state.ExamAnswered[2], state.ExamPosition) = std::tuple(2, 1, 2);
     state.TestTally = {0, 2, 1, 4, 0};
-    state.ExamAnswered[2] = 1;
-    state.ExamPosition = 2;
     ASSERT_TRUE(c.exam ? JournalExam(state, Today) : JournalReviewTest(state, Today));
     std::string journal = folder.read(JournalFile);
-    if (c.cutTo != 0)
-        journal.resize(static_cast<std::size_t>(c.cutTo));
+    journal.resize(c.cutTo != 0 ? static_cast<std::size_t>(c.cutTo) : journal.size());
     if (c.flipByte >= 0)
         journal[static_cast<std::size_t>(c.flipByte)] ^= 0x20;
     folder.write(JournalFile, journal);
 
-    const auto restarted = [] {
-        SessionState next;
-        FillCatalogue(next);
-        RestoreSuspended(next);
-        return next;
-    };
-    SessionState next = restarted();
+    SessionState next = Restarted();
     const Replayed replayed = ReplayJournal(next, Today);
     EXPECT_FALSE(folder.exists(JournalFile));
-    const SessionState later = restarted();
+    const SessionState later = Restarted();
     EXPECT_EQ(
         std::to_string(static_cast<int>(replayed)) + ": " + Sketch(folder.read(ProgressFile)) +
             ", test at " + std::to_string(later.TestPosition) + " tally " +

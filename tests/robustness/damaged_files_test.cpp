@@ -33,10 +33,6 @@ struct Case {
     std::string seen;                   // as Seen renders it
 };
 
-void PrintTo(const Case& c, std::ostream* out) {
-    *out << c.name;
-}
-
 const std::string& Course() {
     static const std::string course = FullCourseContent();
     return course;
@@ -74,28 +70,22 @@ std::string EarlierRun(int test = 0, int exam = 0, std::optional<Run> t = {},
                        std::optional<Run> e = {}, int kind = 10) {
     ProgressHeader header;
     header.UserName = "Pat Doe" + std::string(UserNameLength - 7, ' ');
-    header.PassingGrade = 75;
-    header.SuspendedTestRecord = static_cast<uint8_t>(test);
-    header.SuspendedExamRecord = static_cast<uint8_t>(exam);
-    RecordBytes bytes = EncodeHeader(header);
-    std::string file(bytes.begin(), bytes.end());
-    if (t) {
-        ReviewTestRecord record;
-        std::tie(record.Topic, record.ItemCount, record.Position) =
-            std::tuple(4, t->count, t->position);
-        std::copy(t->items.begin(), t->items.end(), record.Items.begin() + 1);
-        bytes = EncodeReviewTest(record);
-        file.append(bytes.begin(), bytes.end());
-    }
-    if (e) {
-        ExamRecord record;
-        std::tie(record.Kind, record.ItemCount, record.Position) =
-            std::tuple(kind, e->count, e->position);
-        std::copy(e->items.begin(), e->items.end(), record.Items.begin() + 1);
-        record.AnswerCodes.fill(0xFF);
-        bytes = EncodeExam(record);
-        file.append(bytes.begin(), bytes.end());
-    }
+    std::tie(header.PassingGrade, header.SuspendedTestRecord, header.SuspendedExamRecord) =
+        std::tuple(75, test, exam);
+    std::string file;
+    const auto add = [&](const RecordBytes& bytes) { file.append(bytes.begin(), bytes.end()); };
+    const auto fill = [](auto record, const Run& run) {
+        std::tie(record.ItemCount, record.Position) = std::tuple(run.count, run.position);
+        std::copy(run.items.begin(), run.items.end(), record.Items.begin() + 1);
+        return record;
+    };
+    add(EncodeHeader(header));
+    if (t)
+        add(EncodeReviewTest(fill(ReviewTestRecord{.Topic = 4}, *t)));
+    ExamRecord record{.Kind = static_cast<uint8_t>(kind)};
+    record.AnswerCodes.fill(0xFF);
+    if (e)
+        add(EncodeExam(fill(record, *e)));
     return file;
 }
 
