@@ -249,19 +249,15 @@ TEST_F(ProgressFileTest, HeaderOperationsWriteOnlyTheirOwnFields) {
     folder.write(ProgressFile, File({EncodeHeader(expected)}));
     for (int slot = 1; slot <= LogSlotCount + 1; ++slot) {
         AppendProgressLog(slot % 12 + 1, 0.25f * (slot % 4), Today);
-        if (slot <= LogSlotCount) { // with all slots taken nothing changes
-            expected.LogDates[slot] = "11-19-2026";
-            expected.LogCodes[slot] = static_cast<uint8_t>(slot % 12 + 1);
-            expected.LogScores[slot] = 0.25f * (slot % 4);
-        }
+        if (slot <= LogSlotCount) // with all slots taken nothing changes
+            std::tie(expected.LogDates[slot], expected.LogCodes[slot], expected.LogScores[slot]) =
+                std::tuple("11-19-2026", slot % 12 + 1, 0.25f * (slot % 4));
         ASSERT_EQ(folder.read(ProgressFile), File({EncodeHeader(expected)})) << "slot " << slot;
     }
-    state.SoundOn = true;
-    state.PassingGrade = 75;
+    std::tie(state.SoundOn, state.PassingGrade) = std::tuple(true, 75);
     SavePreferences(state);
-    expected.ScrambleQuestions = 0;
-    expected.SoundOn = 1;
-    expected.PassingGrade = 75;
+    std::tie(expected.ScrambleQuestions, expected.SoundOn, expected.PassingGrade) =
+        std::tuple(0, 1, 75);
     EXPECT_EQ(folder.read(ProgressFile), File({EncodeHeader(expected)}));
 }
 
