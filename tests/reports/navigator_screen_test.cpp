@@ -1,5 +1,5 @@
-// Navigator as the candidate meets it: the table folded from the file's log and its chart, the
-// printed page, help on its topic and the keyboard. The cells' texts and the sizes are the rules
+// Navigator as the candidate meets it: the grid printed as it stands, its chart following the
+// current cell, help on its topic and the keyboard. The cells' texts and the sizes are the rules
 // test's; the gallery shows the screen at its sizes.
 
 #include "core/progress_file.h"
@@ -21,17 +21,13 @@ namespace tessera {
 
 namespace {
 
-// A printed line as the recording printer keeps it: each text from its column, counted from 1,
-// as if every character took one column; a text that runs into the next column pushes it on.
-QString Line(std::initializer_list<std::pair<int, const char*>> texts) {
+// A printed line as the recording printer keeps it, from "column:text|column:text": each text
+// from its column, counted from 1, as if every character took one column.
+QString Line(const QString& texts) {
     QString line;
-    for (const auto& [column, text] : texts)
-        line = line.leftJustified(column - 1) + QString::fromLatin1(text);
+    for (const QString& text : texts.split(u'|'))
+        line = line.leftJustified(text.section(u':', 0, 0).toInt() - 1) + text.section(u':', 1);
     return line;
-}
-
-QString Joined(const std::vector<QString>& lines, size_t count) {
-    return QStringList(lines.begin(), lines.begin() + static_cast<qsizetype>(count)).join(u'\n');
 }
 
 } // namespace
@@ -56,13 +52,6 @@ private:
         QVERIFY(QTest::qWaitForWindowActive(navigator.get()));
     }
 
-    QString row(int r) const {
-        QStringList cells;
-        for (int c = 0; c < navigator->Grid1->columnCount(); ++c)
-            cells << navigator->Grid1->item(r, c)->text();
-        return cells.join(u'|');
-    }
-
 private Q_SLOTS:
     void init() {
         f = std::make_unique<ScreenFixture>();
@@ -74,36 +63,8 @@ private Q_SLOTS:
         f.reset();
     }
 
-    void tableFoldedFromTheLogWithItsChart() {
-        f->state.UserName = "Pat Doe" + std::string(23, ' ');
-        open();
-        QTableWidget* grid = navigator->Grid1;
-        QCOMPARE((QStringList{row(0), row(3), row(9), row(11), row(12)}).join(u'\n'),
-                 QStringLiteral(
-                     "\nTopic Title|Initial Date\nof Test/Exam|First Drill\nScore|Full\nTakes|"
-                     "Highest\nScore|Date of\nHighest Score\n"
-                     "Real Property and Laws Relating to Ownership|09-01-2026|65.0%| 2|90.0%|"
-                     "10-02-2026\n"
-                     "Brokerage: Responsibilities and Functions of S...||| 0||\n"
-                     "Screening Exam II|09-08-2026|72.0%| 1|72.0%|09-08-2026\n"
-                     "Custom Built||| 0||"));
-        QCOMPARE(grid->item(5, 2)->textAlignment(), int(Qt::AlignCenter));
-        QCOMPARE(navigator->Label1->text(),
-                 QStringLiteral("Pat Doe                       \nThursday, November 19, 2026"));
-
-        // The chart follows the current cell, which starts on row 1, column 1; the head column
-        // holds no current cell.
-        QCOMPARE(navigator->Chart1->chart().title, std::string("Definitions"));
-        QTest::keyClick(grid, Qt::Key_Down);
-        QTest::keyClick(grid, Qt::Key_Down);
-        QTest::keyClick(grid, Qt::Key_Left);
-        QCOMPARE(std::pair(grid->currentRow(), grid->currentColumn()), std::pair(3, 1));
-        QCOMPARE(navigator->Chart1->accessibleDescription(),
-                 QStringLiteral("Real Property and Laws Relating to Ownership: 2 full takes, "
-                                "65.0% on 09-01-2026, 90.0% on 10-02-2026, passing grade 70%."));
-    }
-
-    void printsOnePageACopy() {
+    // The page shows the grid's cells where they stand: a cell out of place shows here.
+    void printsTheGridOnePageACopy() {
         open();
         f->printer.dialogAnswer = PrintChoice{2, false};
         navigator->Command1_Click(0);
@@ -114,41 +75,36 @@ private Q_SLOTS:
         const QString separator = QString(10, u' ') + QString(88, QChar(0x2014));
         const std::vector<QString> page = printer.pageText(1);
         QCOMPARE(page.size(), std::size_t(4 + 3 + 12 + 11 + 1));
-        QCOMPARE(Joined(page, 12),
-                 Joined({QString(), Line({{6, "Pat Doe"}}),
-                         Line({{6, "Thursday, November 19, 2026"}}), rule,
-                         Line({{45, "Initial Date"},
-                               {58, "First Drill"},
-                               {71, "Full"},
-                               {80, "Highest"},
-                               {94, "Date of"}}),
-                         Line({{6, " Topic Title"},
-                               {42, " of Topic Test"},
-                               {61, "Score"},
-                               {70, "Takes"},
-                               {81, "Score"},
-                               {91, "Highest Score"}}),
-                         rule, Line({{6, "Definitions"}, {72, " 0"}}), separator,
-                         Line({{6, "Preliminary Evaluation"}, {72, " 0"}}), separator,
-                         Line({{6, "Real Property and Laws Relating to Ownership"},
-                               {45, "09-01-2026"},
-                               {61, "65.0%"},
-                               {72, " 2"},
-                               {81, "90.0%"},
-                               {93, "10-02-2026"}})},
-                        12));
+        const QStringList top = {
+            QString(),
+            Line(u"6:Pat Doe"_s),
+            Line(u"6:Thursday, November 19, 2026"_s),
+            rule,
+            Line(u"45:Initial Date|58:First Drill|71:Full|80:Highest|94:Date of"_s),
+            Line(u"6: Topic Title|42: of Topic Test|61:Score|70:Takes|81:Score|91:Highest Score"_s),
+            rule,
+            Line(u"6:Definitions|72: 0"_s),
+            separator,
+            Line(u"6:Preliminary Evaluation|72: 0"_s),
+            separator,
+            Line(u"6:Real Property and Laws Relating to Ownership|45:09-01-2026|61:65.0%|72: 2|"
+                 "81:90.0%|93:10-02-2026"_s),
+        };
+        QCOMPARE(QStringList(page.begin(), page.begin() + top.size()), top);
+        QCOMPARE(page[23] + u'\n' + page[27],
+                 Line(u"6:Brokerage: Responsibilities and Functions of S...|72: 0"_s) + u'\n' +
+                     Line(u"6:Screening Exam II|45:09-08-2026|61:72.0%|72: 1|81:72.0%|"
+                          "93:09-08-2026"_s));
         QCOMPARE(page.back(), rule);
         QCOMPARE(printer.pageText(2), page); // the second copy, a page of its own
         QVERIFY(printer.pageText(3).empty());
         // Rows print bold in Arial 11; the rules between them are thin.
-        const auto font = [&printer](size_t line) {
-            const PrintedLine& l = printer.lines[line];
-            return QStringLiteral("%1 %2%3")
-                .arg(l.fontName)
-                .arg(l.fontSize)
-                .arg(l.bold ? u"b"_s : QString());
-        };
-        QCOMPARE(font(7) + u'|' + font(8), QStringLiteral("Arial 11b|Arial 6"));
+        const PrintedLine& row = printer.lines[7];
+        const PrintedLine& thin = printer.lines[8];
+        QCOMPARE(QStringList(
+                     {row.fontName, QString::number(row.fontSize), QString::number(thin.fontSize)}),
+                 QStringList({u"Arial"_s, u"11"_s, u"6"_s}));
+        QVERIFY(row.bold && !thin.bold);
         QCOMPARE(QApplication::focusWidget(), navigator->Command1[2]);
 
         f->printer.dialogAnswer.reset(); // Cancel prints nothing
@@ -159,14 +115,26 @@ private Q_SLOTS:
         QVERIFY(!navigator->Command1[0]->isEnabled());
     }
 
-    void keyboardHelpAndDone() {
+    void chartKeyboardHelpAndDone() {
         open();
+        // The chart follows the current cell, which starts on row 1, column 1; the head column
+        // holds no current cell.
+        QTableWidget* grid = navigator->Grid1;
+        QCOMPARE(navigator->Chart1->chart().title, std::string("Definitions"));
+        QTest::keyClick(grid, Qt::Key_Down);
+        QTest::keyClick(grid, Qt::Key_Down);
+        QTest::keyClick(grid, Qt::Key_Left);
+        QCOMPARE(std::pair(grid->currentRow(), grid->currentColumn()), std::pair(3, 1));
+        QCOMPARE(navigator->Chart1->accessibleDescription(),
+                 u"Real Property and Laws Relating to Ownership: 2 full takes, 65.0% on "
+                 "09-01-2026, 90.0% on 10-02-2026, passing grade 70%."_s);
+
         QStringList order{QApplication::focusWidget()->objectName()};
         for (int i = 0; i < 4; ++i) {
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             order << QApplication::focusWidget()->objectName();
         }
-        QCOMPARE(order.join(u' '), QStringLiteral("Grid1 Command1_0 Command1_1 Command1_2 Grid1"));
+        QCOMPARE(order.join(u' '), u"Grid1 Command1_0 Command1_1 Command1_2 Grid1"_s);
 
         f->state.HelpTopic = 14; // already on this topic: not loaded again
         navigator->Command1_Click(1);
