@@ -1,5 +1,5 @@
-// RefreshNavigation's rules: captions and enabled states from the take counters and the
-// suspended test and exam.
+// The navigation screen's captions and enabled states from the take counters and the suspended
+// test and exam.
 
 #include "core/navigation.h"
 
@@ -9,63 +9,58 @@ using namespace tessera;
 
 namespace {
 
-struct NavigationCase {
-    const char* takes;  // the counters of topics 1 to 9, then of Exams I to III
-    int suspendedTopic; // with its test type; 0: no test suspended
-    int testType;
-    int examType; // of a suspended exam; 0: none
-    CaptionState review;
-    CaptionState exam;
-    const char* topicFive; // the Financing button's drill; nullptr: the buttons are left
-    bool reviewCard;
-    bool examCard;
-};
+std::string Shown(const CaptionState& c) {
+    return c.caption + (c.enabled ? "" : " (off)");
+}
 
-const CaptionState Review{"Topic &Review Test", true};
-const CaptionState Exam{"&Screening Exam", true};
-const CaptionState ReviewsDone{"All Topics Reviewed Three Times", false};
-const CaptionState ExamsDone{"All Exams Taken Three Times", false};
-const CaptionState ResumeTest{"Resume Topic 3 &Review, All Items", true};
-const CaptionState ResumeRetake{"Resume &Screening Exam, Retake Missed Items", true};
-const CaptionState ResumeCustom{"Resume &Screening Exam, Custom Built", true};
+// The two options, the two report cards (x for enabled), the Financing button and the topics
+// that are enabled; "-" when the topic buttons are left as they were.
+std::string Rendered(const NavigationView& view) {
+    std::string text = Shown(view.reviewOption) + " | " + Shown(view.examOption) + " | " +
+                       (view.reviewCardEnabled ? "x" : "-") + (view.examCardEnabled ? "x" : "-");
+    if (!view.topics)
+        return text + " | -";
+    text += " | " + (*view.topics)[4].caption + " | ";
+    for (const CaptionState& topic : *view.topics)
+        text += topic.enabled ? 'x' : '-';
+    return text;
+}
 
 TEST(Navigation, CaptionsAndEnablingFollowTheCountersAndWhatIsSuspended) {
-    const NavigationCase cases[] = {
-        {"000000000000", 0, 0, 0, Review, Exam, "1st Drill", true, true},
-        {"000010000000", 0, 0, 0, Review, Exam, "2nd Drill", true, true},
-        {"000020000000", 0, 0, 0, Review, Exam, "Last Drill", true, true},
-        {"000030000000", 0, 0, 0, Review, Exam, "Finished", true, true},
-        {"000070000000", 0, 0, 0, Review, Exam, "Finished", true, true},
-        {"333333332332", 0, 0, 0, Review, Exam, "Finished", true, true},
-        {"333333333332", 0, 0, 0, ReviewsDone, Exam, nullptr, true, true},
-        {"000000000333", 0, 0, 0, Review, ExamsDone, "1st Drill", true, true},
+    const std::string Options = "Topic &Review Test | &Screening Exam | xx";
+    const std::string Financing = " | Financing Real Estate - ";
+    // The counters of topics 1 to 9 and Exams I to III; a suspended test's topic and type; a
+    // suspended exam's type.
+    const std::tuple<const char*, int, int, int, std::string> cases[] = {
+        {"000000000000", 0, 0, 0, Options + Financing + "1st Drill | xxxxxxxxx"},
+        {"000010000000", 0, 0, 0, Options + Financing + "2nd Drill | xxxxxxxxx"},
+        {"000020000000", 0, 0, 0, Options + Financing + "Last Drill | xxxxxxxxx"},
+        {"000030000000", 0, 0, 0, Options + Financing + "Finished | xxxx-xxxx"},
+        {"333333332332", 0, 0, 0, Options + Financing + "Finished | --------x"},
+        {"333333333332", 0, 0, 0,
+         "All Topics Reviewed Three Times (off) | &Screening Exam | xx | -"},
+        {"000000000333", 0, 0, 0,
+         "Topic &Review Test | All Exams Taken Three Times (off) | xx" + Financing +
+             "1st Drill | xxxxxxxxx"},
         // A suspended test outranks the finished course, and locks its report card.
-        {"333333333000", 3, 1, 5, ResumeTest, ResumeRetake, nullptr, false, false},
-        {"000000000000", 0, 0, 3, Review, ResumeCustom, "1st Drill", true, false},
+        {"333333333000", 3, 1, 5,
+         "Resume Topic 3 &Review, All Items | Resume &Screening Exam, Retake Missed Items | -- | "
+         "-"},
+        {"000000000000", 0, 0, 3,
+         "Topic &Review Test | Resume &Screening Exam, Custom Built | x-" + Financing +
+             "1st Drill | xxxxxxxxx"},
     };
-    for (const NavigationCase& c : cases) {
+    for (const auto& [takes, topic, testType, examType, expected] : cases) {
         SessionState state;
         FillCatalogue(state);
         for (int counter = 1; counter <= 12; ++counter)
-            state.TakeCounts[counter] = static_cast<int16_t>(c.takes[counter - 1] - '0');
-        state.TestPosition = c.suspendedTopic == 0 ? 0 : 12;
-        state.CurrentTopic = static_cast<int16_t>(c.suspendedTopic == 0 ? 1 : c.suspendedTopic);
-        state.TestType = static_cast<int16_t>(c.testType);
-        state.ExamPosition = c.examType == 0 ? 0 : 40;
-        state.ExamType = static_cast<int16_t>(c.examType);
-
-        const NavigationView view = ComputeNavigation(state);
-        SCOPED_TRACE(c.takes);
-        EXPECT_EQ(view.reviewOption, c.review);
-        EXPECT_EQ(view.examOption, c.exam);
-        EXPECT_EQ(view.reviewCardEnabled, c.reviewCard);
-        EXPECT_EQ(view.examCardEnabled, c.examCard);
-        ASSERT_EQ(view.topics.has_value(), c.topicFive != nullptr);
-        if (!view.topics)
-            continue;
-        EXPECT_EQ((*view.topics)[4].caption, std::string("Financing Real Estate - ") + c.topicFive);
-        for (int topic = 1; topic <= TopicCount; ++topic)
-            EXPECT_EQ((*view.topics)[topic - 1].enabled, state.TakeCounts[topic] < 3) << topic;
+            state.TakeCounts[counter] = static_cast<int16_t>(takes[counter - 1] - '0');
+        state.TestPosition = topic == 0 ? 0 : 12;
+        state.CurrentTopic = static_cast<int16_t>(topic == 0 ? 1 : topic);
+        state.TestType = static_cast<int16_t>(testType);
+        state.ExamPosition = examType == 0 ? 0 : 40;
+        state.ExamType = static_cast<int16_t>(examType);
+        EXPECT_EQ(Rendered(ComputeNavigation(state)), expected) << takes;
     }
 }
 

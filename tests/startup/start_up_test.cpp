@@ -1,4 +1,5 @@
-// Start-up paths answered by script, and what each leaves in the study folder, backups too.
+// Start-up from what the study folder holds and what the user types and answers: the messages
+// it shows, and what the session and the folder hold afterwards.
 
 #include "core/new_notebook.h"
 #include "core/progress_backups.h"
@@ -10,6 +11,8 @@
 #include "tests/support/test_services.h"
 
 #include <gtest/gtest.h>
+
+#include <functional>
 
 using namespace tessera;
 
@@ -34,174 +37,248 @@ std::string HeaderFile(int passingGrade = 75, int logCode = 0) {
     return {bytes.begin(), bytes.end()};
 }
 
-std::vector<std::string> BackupsIn(const StudyFolder& folder) {
-    std::vector<std::string> names;
-    std::error_code absent;
-    for (const auto& entry : std::filesystem::directory_iterator(folder.path() / "Backups", absent))
-        names.push_back(entry.path().filename().string());
-    std::sort(names.begin(), names.end());
-    return names;
-}
-
-struct Told {
-    MessageIcon icon;
-    MessageButtons buttons;
-    QString title;
-    QString text;
-    bool operator==(const Told&) const = default;
-};
-
-void PrintTo(const Told& told, std::ostream* out) {
-    *out << told.title.toStdString() << ": " << told.text.toStdString();
-}
-
-class StartUpTest : public testing::Test {
-protected:
-    StartUpTest() { folder.write("Tessera", "{\\rtf1 no course here}\r\n"); }
-
-    StartUpOutcome start() {
+struct Start : TestServices {
+    Start() { folder.write("Tessera", "{\\rtf1 no course here}\r\n"); }
+    StartUpOutcome run() {
         state = SessionState{};
-        return StartUp(state, doubles.services).run();
+        return StartUp(state, services).run();
     }
-    std::vector<Told> told() const {
-        std::vector<Told> shown;
-        for (const ShownMessage& m : doubles.dialogs.messages())
-            shown.push_back({m.icon, m.buttons, m.title, m.text});
+    std::vector<std::string> backups() const {
+        std::vector<std::string> names;
+        std::error_code absent;
+        for (const auto& entry : std::filesystem::directory_iterator("Backups", absent))
+            names.push_back(entry.path().filename().string());
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+    // Each message as "title (icon buttons): text", one a line.
+    std::string told() const {
+        static const char* icons[] = {"", "critical", "question", "exclamation", "information"};
+        static const char* buttons[] = {"ok", "ok/cancel", "yes/no", "yes/no/cancel"};
+        std::string shown;
+        for (const ShownMessage& m : dialogs.messages())
+            shown += m.title.toStdString() + " (" + icons[int(m.icon)] + ' ' +
+                     buttons[int(m.buttons)] + "): " + m.text.toStdString() + '\n';
         return shown;
+    }
+    // The outcome, the user and options taken, the names asked, and the folder's files: the
+    // progress file's size, passing grade and suspended test record.
+    std::string after(StartUpOutcome outcome) const {
+        std::string text = outcome == StartUpOutcome::Ready ? "ready " : "ended ";
+        if (outcome == StartUpOutcome::Ready)
+            text += state.UserName + "/" + std::to_string(state.PassingGrade) + "/" +
+                    state.PrintFontName + (state.PrinterProblem ? "/no printer " : " ");
+        text += "asked " + std::to_string(dialogs.inputs().size());
+        if (folder.exists(Marker))
+            text += " marker(" + folder.read(Marker) + ")";
+        if (folder.exists(NoteBook))
+            text += " notebook";
+        if (folder.exists(JournalFile))
+            text += " journal";
+        if (const std::string p = folder.exists(Progress) ? folder.read(Progress) : ""; !p.empty())
+            text += " progress " + std::to_string(p.size()) + ":" + std::to_string(uint8_t(p[4])) +
+                    ":" + std::to_string(p[5]);
+        return text + " backups " + std::to_string(backups().size());
     }
 
     StudyFolder folder;
-    TestServices doubles;
     SessionState state;
 };
 
-const QString Running =
-    QStringLiteral("It is possible that this application is already running on this computer.\r\n"
-                   "A previous system lockup or power loss could also cause this warning.\r\n"
-                   "If the application is indeed running, results may be unpredictable if you "
-                   "continue.\r\nPress OK to continue. Cancel to abort.");
-const Told RunningWarning{MessageIcon::Exclamation, MessageButtons::OkCancel,
-                          QStringLiteral("Warning!"), Running};
-const Told ExitProgram{MessageIcon::Question, MessageButtons::YesNo, QStringLiteral("Tessera"),
-                       QStringLiteral("Exit Program?")};
+const std::string Running =
+    "Warning! (exclamation ok/cancel): It is possible that this application is already running on "
+    "this computer.\r\nA previous system lockup or power loss could also cause this warning.\r\n"
+    "If the application is indeed running, results may be unpredictable if you continue.\r\n"
+    "Press OK to continue. Cancel to abort.\n";
+const std::string Exit = "Tessera (question yes/no): Exit Program?\n";
+std::string Damaged(const std::string& buttons) {
+    return "Damaged File Detected! (exclamation " + buttons +
+           "): Your progress file TesseraConfig.MS is damaged.\r\n";
+}
+const std::string Offer = ".MS.\r\nPress Yes to restore it. No to keep the damaged file.\n";
 
-Told Confirm(const QString& name) {
-    return {MessageIcon::Question, MessageButtons::YesNo, QStringLiteral("Please Confirm."),
-            QStringLiteral("Thank you.\r\nSoftware user's name is ") + name + QLatin1Char('.')};
+std::string Confirm(const std::string& name) {
+    return "Please Confirm. (question yes/no): Thank you.\r\nSoftware user's name is " + name +
+           ".\n";
+}
+
+struct Case {
+    const char* name;
+    std::function<void(Start&)> arrange;
+    std::vector<QString> typed; // an empty text cancels
+    std::vector<MessageAnswer> answers;
+    std::string told;
+    std::string after;
+};
+
+using enum MessageAnswer;
+
+void Earlier(Start& s) {
+    s.folder.write(Progress, HeaderFile());
+}
+void AnotherRun(Start& s) {
+    Earlier(s);
+    s.folder.write(Marker, "another run");
+}
+void Backups(Start& s, std::vector<std::pair<const char*, std::string>> stamped) {
+    std::filesystem::create_directory("Backups");
+    for (const auto& [stamp, bytes] : stamped)
+        s.folder.write(std::string("Backups/TesseraConfig ") + stamp + ".MS", bytes);
 }
 
 const QString LongName = QStringLiteral("Alexandra Konstantinopoulou-Whitfield");
 
-// What a start finds in the folder, and what it leaves there.
-enum Found { Content = 1, Earlier = 2, AnotherRun = 4, Printer = 8, Usual = Content | Printer };
-enum Left { Nothing = 0, MarkerLeft = 1, NoteBookLeft = 2 };
-
-// One start from what the folder holds and what the user answers. Only a name taken writes
-// the progress file; a marker found is neither rewritten nor removed.
-struct StartCase {
-    const char* name;
-    int found;
-    std::vector<QString> typed; // an empty text cancels
-    std::vector<MessageAnswer> answers;
-    StartUpOutcome outcome;
-    std::vector<Told> told;
-    int left;
-    std::string userName = PatDoe; // when ready
+const Case Cases[] = {
+    {"no content file",
+     [](Start& s) {
+         AnotherRun(s);
+         std::filesystem::remove("Tessera");
+     },
+     {},
+     {},
+     "Missing File Detected! (critical ok): Fatal Error. This Software must be reinstalled.\n",
+     "ended asked 0 marker(another run) progress 940:75:0 backups 0"},
+    {"another run cancelled",
+     AnotherRun,
+     {},
+     {Cancel},
+     Running,
+     "ended asked 0 marker(another run) progress 940:75:0 backups 0"},
+    {"another run taken on",
+     AnotherRun,
+     {},
+     {Ok},
+     Running,
+     "ready " + PatDoe + "/75/Courier New asked 0 marker(another run) progress 940:75:0 backups 1"},
+    {"later start",
+     Earlier,
+     {},
+     {},
+     "",
+     "ready " + PatDoe + "/75/Courier New asked 0 marker() progress 940:75:0 backups 1"},
+    {"no printer",
+     [](Start& s) {
+         Earlier(s);
+         s.printer.fonts.reset();
+     },
+     {},
+     {},
+     "Printer error (critical ok): There is a problem that will prevent printing. Most likely "
+     "cause is that\r\nyou have not selected a printer from the Windows Control Panel.\r\nOpen "
+     "the Control Panel, double-click the Printers icon, and choose Add to install a printer.\n",
+     "ready " + PatDoe + "/75//no printer asked 0 marker() progress 940:75:0 backups 1"},
+    {"first run trims the name",
+     [](Start&) {},
+     {QStringLiteral("   Pat Doe")},
+     {Yes},
+     Confirm("Pat Doe"),
+     "ready " + PatDoe + "/70/Courier New asked 1 marker() notebook progress 940:70:0 backups 1"},
+    {"blanks ask again, a long name is cut",
+     [](Start&) {},
+     {QStringLiteral("   "), LongName},
+     {Yes},
+     Confirm(LongName.left(30).toStdString()),
+     "ready " + LongName.left(30).toStdString() +
+         "/70/Courier New asked 2 marker() notebook progress 940:70:0 backups 1"},
+    {"No, or a name outside the code page, asks again",
+     [](Start&) {},
+     {QStringLiteral("Pat Dough"), QStringLiteral("Pat \u0141ukasz"), QStringLiteral("Pat Doe")},
+     {No, Ok, Yes},
+     Confirm("Pat Dough") +
+         "Software User's Name (exclamation ok): The name can use only letters, figures and "
+         "signs of Western European languages. Please type it again.\n" +
+         Confirm("Pat Doe"),
+     "ready " + PatDoe + "/70/Courier New asked 3 marker() notebook progress 940:70:0 backups 1"},
+    {"cancel, then exit, leaves a first run",
+     [](Start&) {},
+     {QString(), QString()},
+     {No, Yes},
+     Exit + Exit,
+     "ended asked 2 backups 0"},
+    {"a folder that cannot be written gives up after a few tries",
+     [](Start&) { std::filesystem::create_directory(NoteBook); },
+     {QStringLiteral("Pat Doe")},
+     {Yes},
+     Confirm("Pat Doe") +
+         "Path/File access error (critical ok): Unrecoverable error 75 has occurred.\n"
+         "Path/File access error (critical ok): The program cannot start: path/file access "
+         "error in the study folder. Make sure that the folder may be written to and has room, "
+         "then start the program again.\n",
+     "ended asked 1 notebook progress 940:70:0 backups 0"},
+    {"a damaged file restored from the newest good backup",
+     [](Start& s) {
+         s.folder.write(Progress, HeaderFile(70) + "cut");
+         Backups(
+             s, {{"2026-11-17 10-00-00", HeaderFile(60)}, {"2026-11-18 10-00-00", HeaderFile(65)}});
+     },
+     {},
+     {Yes},
+     Damaged("yes/no") + "The newest good backup is Backups/TesseraConfig 2026-11-18 10-00-00" +
+         Offer,
+     "ready " + PatDoe + "/65/Courier New asked 0 marker() progress 940:65:0 backups 3"},
+    {"an impossible log kept, a cut backup passed over",
+     [](Start& s) {
+         s.folder.write(Progress, HeaderFile(70, 40));
+         Backups(s, {{"2026-11-17 10-00-00", HeaderFile(60)}, {"2026-11-18 10-00-00", "cut"}});
+     },
+     {},
+     {No},
+     Damaged("yes/no") + "The newest good backup is Backups/TesseraConfig 2026-11-17 10-00-00" +
+         Offer,
+     "ready " + PatDoe + "/70/Courier New asked 0 marker() progress 940:70:0 backups 2"},
+    {"a grade over a hundred without backups",
+     [](Start& s) { s.folder.write(Progress, HeaderFile(170)); },
+     {},
+     {Ok},
+     Damaged("ok") +
+         "No good backup of it was found in the Backups folder. The program will use what "
+         "it can read.\n",
+     "ready " + PatDoe + "/170/Courier New asked 0 marker() progress 940:170:0 backups 0"},
+    {"a journal left by a crash is replayed",
+     [](Start& s) {
+         Earlier(s);
+         SessionState running;
+         running.CurrentTopic = 2;
+         running.TestType = 1;
+         running.TestItemCount = 2;
+         running.TestItems = {0, 3, 4};
+         running.TestPosition = 2;
+         JournalReviewTest(running, s.clock.now());
+     },
+     {},
+     {},
+     "Test Recovered! (information ok): The program stopped during a review test and did not "
+     "save it.\r\nYour answers up to the last one were kept. Resume the test from the "
+     "Navigation Screen.\n",
+     "ready " + PatDoe + "/75/Courier New asked 0 marker() progress 1880:75:2 backups 1"},
 };
 
-class StartPaths : public StartUpTest, public testing::WithParamInterface<StartCase> {};
-
-TEST_P(StartPaths, TellExactlyAndLeaveTheFolderAsTheyShould) {
-    const StartCase& c = GetParam();
-    if ((c.found & Content) == 0)
-        std::filesystem::remove(folder.path() / "Tessera");
-    const std::string progress = c.found & Earlier ? HeaderFile() : "";
-    if (!progress.empty())
-        folder.write(Progress, progress);
-    if (c.found & AnotherRun)
-        folder.write(Marker, "another run");
-    if ((c.found & Printer) == 0)
-        doubles.printer.fonts.reset();
-    for (const QString& text : c.typed)
-        doubles.dialogs.type(text);
-    for (const MessageAnswer answer : c.answers)
-        doubles.dialogs.answer(answer);
-
-    EXPECT_EQ(start(), c.outcome);
-    EXPECT_EQ(told(), c.told);
-    EXPECT_EQ(doubles.dialogs.inputs().size(), c.typed.size());
-    EXPECT_EQ(folder.exists(Marker), (c.left & MarkerLeft) != 0);
-    if (c.found & AnotherRun) {
-        EXPECT_EQ(folder.read(Marker), "another run");
-    }
-    EXPECT_EQ(folder.exists(NoteBook), (c.left & NoteBookLeft) != 0);
-    const bool named = c.outcome == StartUpOutcome::Ready && !c.typed.empty();
-    if (!named) {
-        EXPECT_EQ(folder.exists(Progress) ? folder.read(Progress) : "", progress);
-    }
-    if (c.outcome == StartUpOutcome::Ready) {
-        EXPECT_EQ(state.UserName, c.userName);
-        EXPECT_EQ(state.PassingGrade, named ? 70 : 75);
-        EXPECT_EQ(state.PrinterProblem, (c.found & Printer) == 0);
-        EXPECT_EQ(state.PrintFontName, c.found & Printer ? "Courier New" : "");
+TEST(StartUp, TellsExactlyAndLeavesTheFolderAsItShould) {
+    for (const Case& c : Cases) {
+        Start s;
+        c.arrange(s);
+        for (const QString& text : c.typed)
+            s.dialogs.type(text);
+        for (const MessageAnswer answer : c.answers)
+            s.dialogs.answer(answer);
+        const StartUpOutcome outcome = s.run();
+        EXPECT_EQ(s.told(), c.told) << c.name;
+        EXPECT_EQ(s.after(outcome), c.after) << c.name;
     }
 }
 
-using enum StartUpOutcome;
-using enum MessageAnswer;
-
-INSTANTIATE_TEST_SUITE_P(
-    Cases, StartPaths,
-    testing::Values(
-        StartCase("MissingContentFileEndsAtOnce", AnotherRun | Printer, {}, {}, Ended,
-                  {{MessageIcon::Critical, MessageButtons::Ok,
-                    QStringLiteral("Missing File Detected!"),
-                    QStringLiteral("Fatal Error. This Software must be reinstalled.")}},
-                  MarkerLeft),
-        StartCase("RunningMarkerCancelled", Usual | Earlier | AnotherRun, {}, {Cancel}, Ended,
-                  {RunningWarning}, MarkerLeft),
-        StartCase("RunningMarkerAnsweredOk", Usual | Earlier | AnotherRun, {}, {Ok}, Ready,
-                  {RunningWarning}, MarkerLeft),
-        StartCase("LaterStartMakesNoNotebook", Usual | Earlier, {}, {}, Ready, {}, MarkerLeft),
-        StartCase("NoPrinterIsToldOnceAndStartUpGoesOn", Content | Earlier, {}, {}, Ready,
-                  {{MessageIcon::Critical, MessageButtons::Ok, QStringLiteral("Printer error"),
-                    QStringLiteral("There is a problem that will prevent printing. Most likely "
-                                   "cause is that\r\nyou have not selected a printer from the "
-                                   "Windows Control Panel.\r\nOpen the Control Panel, "
-                                   "double-click the Printers icon, and choose Add to install a "
-                                   "printer.")}},
-                  MarkerLeft),
-        StartCase("FirstRunTrimsTheName", Usual, {QStringLiteral("   Pat Doe")}, {Yes}, Ready,
-                  {Confirm(QStringLiteral("Pat Doe"))}, MarkerLeft | NoteBookLeft),
-        StartCase("BlanksAskAgainAndALongNameIsCutToThirty", Usual,
-                  {QStringLiteral("     "), LongName}, {Yes}, Ready, {Confirm(LongName.left(30))},
-                  MarkerLeft | NoteBookLeft, LongName.left(30).toStdString()),
-        StartCase("NoOrANameOutsideTheCodePageAsksAgain", Usual,
-                  {QStringLiteral("Pat Dough"), QStringLiteral("Pat \u0141ukasz"),
-                   QStringLiteral("Pat Doe")},
-                  {No, Ok, Yes}, Ready,
-                  {Confirm(QStringLiteral("Pat Dough")),
-                   {MessageIcon::Exclamation, MessageButtons::Ok,
-                    QStringLiteral("Software User's Name"),
-                    QStringLiteral("The name can use only letters, figures and signs of "
-                                   "Western European languages. Please type it again.")},
-                   Confirm(QStringLiteral("Pat Doe"))},
-                  MarkerLeft | NoteBookLeft),
-        StartCase("CancelThenExitLeavesAFirstRun", Usual, {QString(), QString()}, {No, Yes}, Ended,
-                  {ExitProgram, ExitProgram}, Nothing)),
-    [](const testing::TestParamInfo<StartCase>& info) { return info.param.name; });
-
-TEST_F(StartUpTest, FirstRunWritesTheHeaderOverZerosAndTheNotebook) {
+TEST(StartUp, FirstRunWritesTheHeaderOverZerosAndTheNotebook) {
+    Start s;
     std::string zeros(RecordSize, '\0');
     zeros[700] = 'R'; // the log and reserved bytes pass through
-    folder.write(Progress, zeros);
-    doubles.dialogs.type(QStringLiteral("Pat Doe"));
-    doubles.dialogs.answer(MessageAnswer::Yes);
+    s.folder.write(Progress, zeros);
+    s.dialogs.type(QStringLiteral("Pat Doe"));
+    s.dialogs.answer(Yes);
 
-    EXPECT_EQ(start(), StartUpOutcome::Ready);
-    EXPECT_EQ(folder.read(Progress),
+    EXPECT_EQ(s.run(), StartUpOutcome::Ready);
+    EXPECT_EQ(s.folder.read(Progress),
               std::string("\x01\x01\x01\x01\x46\x00\x00", 7) + PatDoe + zeros.substr(37));
-    EXPECT_TRUE(state.ScrambleQuestions && state.SoundOn && state.TimerActive);
+    EXPECT_TRUE(s.state.ScrambleQuestions && s.state.SoundOn && s.state.TimerActive);
 
     std::string expected = "{\\rtf1\\ansi\\deff0\\deflang1033{\\fonttbl{\\f0\\fswiss Arial;}}\r\n"
                            "\\viewkind4\\uc1\\pard\\b\\f0\\fs23 \r\n"
@@ -218,12 +295,12 @@ TEST_F(StartUpTest, FirstRunWritesTheHeaderOverZerosAndTheNotebook) {
           "Brokerage: Responsibilities and Functions of Salespersons"})
         expected += std::string("\\par ") + title + "\r\n\\par Notes:\r\n" +
                     "\\par \r\n\\par \r\n\\par \r\n\\par \r\n";
-    expected += "\\par }\r\n";
-    EXPECT_EQ(folder.read(NoteBook), expected);
+    EXPECT_EQ(s.folder.read(NoteBook), expected + "\\par }\r\n");
     EXPECT_EQ(RtfEscaped("Pat {Doe}\\ \xe9"), "Pat \\{Doe\\}\\\\ \\'e9");
 }
 
-TEST_F(StartUpTest, RestartRestoresTheSuspendedTestAndExam) {
+TEST(StartUp, RestartRestoresTheSuspendedTestAndExamWritingNothing) {
+    Start s;
     ProgressHeader header;
     header.UserName = PatDoe;
     header.SuspendedTestRecord = 2;
@@ -231,7 +308,6 @@ TEST_F(StartUpTest, RestartRestoresTheSuspendedTestAndExam) {
     ReviewTestRecord review;
     review.Topic = 3;
     review.Position = 4;
-    review.Furthest = 5;
     review.ItemCount = 6;
     review.TestType = 3;
     review.Items[4] = 212;
@@ -245,152 +321,45 @@ TEST_F(StartUpTest, RestartRestoresTheSuspendedTestAndExam) {
     for (const RecordBytes& bytes :
          {EncodeHeader(header), EncodeReviewTest(review), EncodeExam(exam)})
         file.append(bytes.begin(), bytes.end());
-    folder.write(Progress, file);
+    s.folder.write(Progress, file);
 
-    EXPECT_EQ(start(), StartUpOutcome::Ready);
-    EXPECT_EQ(
-        std::tuple(state.CurrentTopic, state.TestPosition, state.TestType, state.TestItems[4]),
-        std::tuple(3, 4, 3, 212));
-    EXPECT_EQ(std::tuple(state.ExamKind, state.ExamPosition, state.ExamItems[17]),
-              std::tuple(2, 17, 160));
-    EXPECT_EQ(folder.read(Progress), file) << "restoring reads and writes nothing";
+    EXPECT_EQ(s.run(), StartUpOutcome::Ready);
+    const SessionState& st = s.state;
+    EXPECT_EQ(std::tuple(st.CurrentTopic, st.TestPosition, st.TestType, st.TestItems[4],
+                         st.ExamKind, st.ExamPosition, st.ExamItems[17]),
+              std::tuple(3, 4, 3, 212, 2, 17, 160));
+    EXPECT_EQ(s.folder.read(Progress), file);
 }
 
-TEST_F(StartUpTest, FolderThatCannotBeWrittenGivesUpAfterAFewTries) {
-    // A folder in the notebook's place: writing it fails however often it is tried.
-    std::filesystem::create_directory(folder.path() / NoteBook);
-    doubles.dialogs.type(QStringLiteral("Pat Doe"));
-    doubles.dialogs.answer(MessageAnswer::Yes);
+TEST(StartUp, FirstStartOfADayAndEveryRewriteKeepTheNewestTenBackups) {
+    Start s;
+    s.folder.write(Progress, HeaderFile(70, 1));
+    ASSERT_EQ(s.run(), StartUpOutcome::Ready);
+    s.dialogs.answer(Ok); // to the marker the first start left
+    s.clock.advanceSeconds(3600);
+    ASSERT_EQ(s.run(), StartUpOutcome::Ready); // the same day: no second backup
+    EXPECT_EQ(s.backups(), std::vector<std::string>{"TesseraConfig 2026-11-19 09-00-00.MS"});
+    EXPECT_EQ(s.folder.read("Backups/TesseraConfig 2026-11-19 09-00-00.MS"), HeaderFile(70, 1));
 
-    EXPECT_EQ(start(), StartUpOutcome::Ended);
-    const QString error = QStringLiteral("Path/File access error");
-    const std::vector<Told> expected = {
-        Confirm(QStringLiteral("Pat Doe")),
-        {MessageIcon::Critical, MessageButtons::Ok, error,
-         QStringLiteral("Unrecoverable error 75 has occurred.")},
-        {MessageIcon::Critical, MessageButtons::Ok, error,
-         QStringLiteral("The program cannot start: path/file access error in the study folder. "
-                        "Make sure that the folder may be written to and has room, then start "
-                        "the program again.")}};
-    EXPECT_EQ(told(), expected) << "the error once, then the closing message";
-    EXPECT_FALSE(folder.exists(Marker)) << "this run made the marker and takes it away";
+    for (int minute = 1; minute <= 11; ++minute) {
+        s.clock.setDateTime(2026, 11, 20, 8, minute, 0);
+        ASSERT_EQ(RewriteProgressFile(s.state, std::vector<ExamRecord>{}, s.clock.now()),
+                  SaveStatus::Saved);
+    }
+    const std::vector<std::string> kept = s.backups();
+    EXPECT_EQ(kept.front() + " .. " + kept.back() + " " + std::to_string(kept.size()),
+              "TesseraConfig 2026-11-20 08-02-00.MS .. TesseraConfig 2026-11-20 08-11-00.MS 10");
 }
 
 TEST(PrintFont, TheLastOfTheFourFoundInTheJoinedNamesWins) {
-    const std::vector<std::pair<QStringList, std::string>> cases = {
+    const std::pair<QStringList, std::string> cases[] = {
         {{QStringLiteral("Arial"), QStringLiteral("Times New Roman")}, ""},
         {{QStringLiteral("Courier New"), QStringLiteral("Terminal")}, "Courier New"},
         {{QStringLiteral("Courier"), QStringLiteral("MS LineDraw")}, "Courier"},
         {{QStringLiteral("Terminal"), QStringLiteral("MS LineDraw")}, "MS LineDraw"},
     };
     for (const auto& [fonts, expected] : cases)
-        EXPECT_EQ(ChoosePrintFontName(fonts), expected)
-            << fonts.join(QLatin1Char(',')).toStdString();
-}
-
-// Backups: when they are taken, how many stay, and the offer of the newest good one when
-// the progress file is damaged.
-TEST_F(StartUpTest, FirstStartOfADayAndEveryRewriteKeepTheNewestTen) {
-    folder.write(Progress, HeaderFile(70, 1));
-    ASSERT_EQ(start(), StartUpOutcome::Ready);
-    doubles.dialogs.answer(MessageAnswer::Ok); // to the marker the first start left
-    doubles.clock.advanceSeconds(3600);
-    ASSERT_EQ(start(), StartUpOutcome::Ready); // the same day: no second backup
-    EXPECT_EQ(BackupsIn(folder), std::vector<std::string>{"TesseraConfig 2026-11-19 09-00-00.MS"});
-    EXPECT_EQ(folder.read("Backups/TesseraConfig 2026-11-19 09-00-00.MS"), HeaderFile(70, 1));
-
-    for (int minute = 1; minute <= 11; ++minute) {
-        doubles.clock.setDateTime(2026, 11, 20, 8, minute, 0);
-        ASSERT_EQ(RewriteProgressFile(state, std::vector<ExamRecord>{}, doubles.clock.now()),
-                  SaveStatus::Saved);
-    }
-    const std::vector<std::string> kept = BackupsIn(folder);
-    ASSERT_EQ(kept.size(), size_t{10});
-    EXPECT_EQ(kept.front(), "TesseraConfig 2026-11-20 08-02-00.MS");
-    EXPECT_EQ(kept.back(), "TesseraConfig 2026-11-20 08-11-00.MS");
-}
-
-struct DamagedCase {
-    const char* name;
-    std::string progress;
-    std::vector<std::pair<const char*, std::string>> backups; // oldest first
-    MessageAnswer answer;
-    std::string text;     // of the one message
-    std::string restored; // the progress file afterwards; empty: left as it was
-};
-
-class DamagedFileTest : public StartUpTest, public testing::WithParamInterface<DamagedCase> {};
-
-TEST_P(DamagedFileTest, SaysSoAndOffersTheNewestGoodBackup) {
-    const DamagedCase& c = GetParam();
-    folder.write(Progress, c.progress);
-    std::filesystem::create_directory(folder.path() / "Backups");
-    for (const auto& [stamp, bytes] : c.backups)
-        folder.write(std::string("Backups/TesseraConfig ") + stamp + ".MS", bytes);
-    const std::vector<std::string> before = BackupsIn(folder);
-    doubles.dialogs.answer(c.answer);
-
-    ASSERT_EQ(start(), StartUpOutcome::Ready);
-    ASSERT_EQ(doubles.dialogs.messages().size(), size_t{1});
-    const ShownMessage& told = doubles.dialogs.messages().front();
-    EXPECT_EQ(told.title, QStringLiteral("Damaged File Detected!"));
-    EXPECT_EQ(told.icon, MessageIcon::Exclamation);
-    EXPECT_EQ(told.text.toStdString(), c.text);
-    EXPECT_EQ(folder.read(Progress), c.restored.empty() ? c.progress : c.restored);
-    if (c.restored.empty()) {
-        EXPECT_EQ(BackupsIn(folder), before) << "no backup is taken of a damaged file";
-    }
-}
-
-const std::string Damaged = "Your progress file TesseraConfig.MS is damaged.\r\n";
-const std::string Offer = "Press Yes to restore it. No to keep the damaged file.";
-
-INSTANTIATE_TEST_SUITE_P(
-    Cases, DamagedFileTest,
-    testing::Values(
-        DamagedCase("OddLengthRestored", HeaderFile(70) + "cut",
-                    {{"2026-11-17 10-00-00", HeaderFile(60)},
-                     {"2026-11-18 10-00-00", HeaderFile(65)}},
-                    MessageAnswer::Yes,
-                    Damaged +
-                        "The newest good backup is Backups/TesseraConfig 2026-11-18 "
-                        "10-00-00.MS.\r\n" +
-                        Offer,
-                    HeaderFile(65)),
-        DamagedCase("ImpossibleLogDeclined", HeaderFile(70, 40),
-                    {{"2026-11-17 10-00-00", HeaderFile(60)}, {"2026-11-18 10-00-00", "cut"}},
-                    MessageAnswer::No,
-                    Damaged +
-                        "The newest good backup is Backups/TesseraConfig 2026-11-17 "
-                        "10-00-00.MS.\r\n" +
-                        Offer,
-                    ""),
-        DamagedCase("GradeOverAHundredWithoutBackups", HeaderFile(170), {}, MessageAnswer::Ok,
-                    Damaged + "No good backup of it was found in the Backups folder. The "
-                              "program will use what it can read.",
-                    "")),
-    [](const testing::TestParamInfo<DamagedCase>& info) { return info.param.name; });
-
-TEST_F(StartUpTest, AJournalLeftByACrashIsReplayedAndSaidSo) {
-    folder.write(Progress, HeaderFile());
-    SessionState running;
-    running.CurrentTopic = 2;
-    running.TestType = 1;
-    running.TestItemCount = 2;
-    running.TestItems = {0, 3, 4};
-    running.TestPosition = 2;
-    ASSERT_TRUE(JournalReviewTest(running, doubles.clock.now()));
-
-    EXPECT_EQ(start(), StartUpOutcome::Ready);
-    EXPECT_EQ(told(),
-              (std::vector<Told>{
-                  {MessageIcon::Information, MessageButtons::Ok, QStringLiteral("Test Recovered!"),
-                   QStringLiteral("The program stopped during a review test and did "
-                                  "not save it.\r\nYour answers up to the last one were "
-                                  "kept. Resume the test from the Navigation Screen.")}}));
-    EXPECT_EQ(state.TestPosition, 2);
-    EXPECT_EQ(ReadProgressHeader().SuspendedTestRecord, 2);
-    EXPECT_FALSE(folder.exists(JournalFile));
+        EXPECT_EQ(ChoosePrintFontName(fonts), expected) << fonts.join(u',').toStdString();
 }
 
 } // namespace

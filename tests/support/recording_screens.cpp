@@ -2,6 +2,19 @@
 
 namespace tessera {
 
+std::string RecordingScreenHost::callsText() const {
+    static const char* kinds[] = {"load", "show", "modal", "unload"};
+    static const char* names[] = {"Pubdat",    "ButtonMenu", "Quiz800",  "Aladdin", "QuizSumm",
+                                  "PictForm",  "ExamSet",    "ExamTest", "Results", "Scoring",
+                                  "Navigator", "Viewing",    "NoteBook", "Help",    "Calculator",
+                                  "AlarmForm", "Preferences"};
+    std::string text;
+    for (const ScreenCall& call : m_calls)
+        text += std::string(text.empty() ? "" : ", ") + kinds[int(call.kind)] + ' ' +
+                names[int(call.name)];
+    return text;
+}
+
 QWidget* RecordingScreenHost::load(ScreenName name) {
     m_calls.push_back({ScreenCallKind::Load, name});
     return find(name);

@@ -5,6 +5,7 @@
 
 #include <map>
 #include <set>
+#include <string>
 #include <vector>
 
 namespace tessera {
@@ -33,6 +34,8 @@ public:
     void place(ScreenName name, QWidget* screen);
 
     const std::vector<ScreenCall>& calls() const { return m_calls; }
+    // The calls as "show Help, unload Viewing, modal Navigator".
+    std::string callsText() const;
     void clearCalls() { m_calls.clear(); }
     bool programEnded() const { return m_ended; }
 

@@ -7,7 +7,15 @@
 #include "tests/support/study_fixture.h"
 
 #include <QString>
+#include <QTest>
 #include <QWidget>
+
+#include <string>
+
+// A failed comparison of two renderings shows both.
+template <> inline char* QTest::toString(const std::string& text) {
+    return qstrdup(text.c_str());
+}
 
 namespace tessera {
 

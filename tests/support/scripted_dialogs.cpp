@@ -46,4 +46,15 @@ QStringList ScriptedDialogs::titles() const {
     return result;
 }
 
+QString ScriptedDialogs::messagesText() const {
+    static const char* icons[] = {"", "critical ", "question ", "exclamation ", "information "};
+    static const char* buttons[] = {"ok", "ok/cancel", "yes/no", "yes/no/cancel"};
+    QStringList shown;
+    for (const ShownMessage& m : m_messages)
+        shown << QStringLiteral("%1 (%2%3): %4")
+                     .arg(m.title, QLatin1String(icons[int(m.icon)]),
+                          QLatin1String(buttons[int(m.buttons)]), m.text);
+    return shown.join(QStringLiteral(" | "));
+}
+
 } // namespace tessera

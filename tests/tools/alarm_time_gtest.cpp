@@ -2,6 +2,8 @@
 
 #include "tools/alarm_time.h"
 
+#include <QStringList>
+
 #include <gtest/gtest.h>
 
 namespace tessera {
@@ -27,24 +29,20 @@ TEST(AlarmTime, ReadsTwelveAndTwentyFourHourTimes) {
         EXPECT_EQ(ParseTimeOfDay(QString::fromLatin1(text)), expected) << text;
 }
 
-TEST(AlarmTime, WritesLongAndMediumTimes) {
-    EXPECT_EQ(LongTimeText(at(14, 25, 30)), QStringLiteral("2:25:30 PM"));
-    EXPECT_EQ(LongTimeText(0), QStringLiteral("12:00:00 AM"));
-    EXPECT_EQ(LongTimeText(at(12, 0, 5)), QStringLiteral("12:00:05 PM"));
-    EXPECT_EQ(MediumTimeText(at(7, 30, 59)), QStringLiteral("07:30 AM"));
-    EXPECT_EQ(MediumTimeText(at(23, 5)), QStringLiteral("11:05 PM"));
-    // Every text written reads back as the same time.
+TEST(AlarmTime, WritesTimesThatReadBackAndAutoSetsTenMinutesARow) {
+    const QStringList written = {LongTimeText(at(14, 25, 30)),   LongTimeText(0),
+                                 LongTimeText(at(12, 0, 5)),     MediumTimeText(at(7, 30, 59)),
+                                 MediumTimeText(at(23, 5)),      AutoSetRowText(0),
+                                 AutoSetRowText(AutoSetRows - 1)};
+    EXPECT_EQ(written.join(u'|'), QStringLiteral("2:25:30 PM|12:00:00 AM|12:00:05 PM|07:30 AM|"
+                                                 "11:05 PM|10 min.|600 min."));
     for (int time = 0; time < SecondsPerDay; time += 61)
         ASSERT_EQ(ParseTimeOfDay(LongTimeText(time)), time);
-}
 
-TEST(AlarmTime, AutoSetAddsTenMinutesARowAndDropsTheDay) {
     const DateValue day = DateFromParts(2026, 11, 19);
     EXPECT_EQ(AutoSetAlarmTime(day + at(14, 15, 30) / 86400.0, 0), at(14, 25, 30));
     EXPECT_EQ(AutoSetAlarmTime(day + at(14, 15, 30) / 86400.0, 59), at(0, 15, 30));
     EXPECT_EQ(AutoSetAlarmTime(day + at(23, 55) / 86400.0, 0), at(0, 5));
-    EXPECT_EQ(AutoSetRowText(0), QStringLiteral("10 min."));
-    EXPECT_EQ(AutoSetRowText(AutoSetRows - 1), QStringLiteral("600 min."));
 }
 
 } // namespace

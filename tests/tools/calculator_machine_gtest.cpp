@@ -7,121 +7,89 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <string>
-#include <vector>
 
 namespace tessera {
 
 namespace {
 
-// '~' stands for F9, the sign key, which has no character code.
-std::vector<CalculatorMessage> typeKeys(CalculatorMachine& machine, const std::string& keys) {
-    std::vector<CalculatorMessage> shown;
+// The readout, the memory line, the pending operator, the clears in a row, the last key's
+// kind, and the messages shown. '~' stands for F9, the sign key, which has no character code.
+std::string AfterKeys(const std::string& keys) {
+    CalculatorMachine machine;
+    std::string messages;
     for (const char key : keys) {
         const CalculatorKeyPress press = key == '~'
                                              ? CalculatorKeyPress{CalculatorControl::Number, 10}
                                              : CalculatorKeyFor(static_cast<unsigned char>(key));
         if (auto message = machine.press(press.control, press.index))
-            shown.push_back(*message);
+            messages += "|" + message->text;
     }
-    return shown;
+    static const char* kinds[] = {"None", "ClearEntry", "Nums", "Ops"};
+    return machine.readout() + "|" + machine.memoryLine() + "|" + machine.pendingOperator() +
+           std::to_string(machine.clearPresses()) + " " + kinds[int(machine.lastInput())] +
+           messages;
 }
 
-struct KeyCase {
-    const char* name;
-    std::string keys;
-    std::string readout;
-    std::string message; // the one message shown, if any
-    std::string memory = "";
-};
+const std::string Esc = "\x1b";
+const std::string MemAdd = "\x10";    // Ctrl+P
+const std::string MemRecall = "\x12"; // Ctrl+R
+const std::string MemMinus = "\r";    // Ctrl+M
+const std::string Nines = std::string(200, '9');
 
-const std::string Escape = "\x1b";
-const std::string MemoryAdd = "\x10";    // Ctrl+P
-const std::string MemoryRecall = "\x12"; // Ctrl+R
-const std::string MemorySubtract = "\r"; // Ctrl+M
-
-class CalculatorKeys : public testing::TestWithParam<KeyCase> {};
-
-TEST_P(CalculatorKeys, ShowTheReadoutAndMessage) {
-    CalculatorMachine machine;
-    const auto shown = typeKeys(machine, GetParam().keys);
-    EXPECT_EQ(machine.readout(), GetParam().readout);
-    EXPECT_EQ(machine.memoryLine(), GetParam().memory);
-    if (GetParam().message.empty()) {
-        EXPECT_TRUE(shown.empty());
-    } else {
-        ASSERT_EQ(shown.size(), 1u);
-        EXPECT_EQ(shown[0].text, GetParam().message);
-    }
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Sequences, CalculatorKeys,
-    testing::Values(
-        KeyCase{"LeftToRightWithoutPrecedence", "2+3X4=", "20", ""},
-        KeyCase{"ZeroOnAFreshDisplay", "0", "0.", ""},
-        KeyCase{"ZerosCountAfterThePoint", ".05", "0.05", ""},
-        KeyCase{"EqualsTakesTheDisplay", "5+=", "10", ""},
-        KeyCase{"SecondOperatorReplacesTheFirst", "5++3=", "8", ""},
-        KeyCase{"NextEntryStartsAfterAResult", "2*3=7-1=", "6", ""},
-        KeyCase{"DivideByZero", "7/0=", "7.", "Can't divide by zero"},
-        KeyCase{"DivideByZeroPendsEquals", "7/0=+1=", "8", "Can't divide by zero"},
-        KeyCase{"SignOnZeroDoesNothing", "~", "0.", ""},
-        KeyCase{"SignTwiceGivesItBack", "5~~", "5.", ""}, KeyCase{"SignOnAnEntry", "5~", "-5.", ""},
-        KeyCase{"RootOfANegative", "4~@", "-4.", "Change sign to +."},
-        KeyCase{"Root", "2.25@", "1.5", ""}, KeyCase{"PercentScalesTheEntry", "200X10%", "20", ""},
-        KeyCase{"PercentDoesNotTakeAShare", "200+10%", "200.1", ""},
-        KeyCase{"ClearEntryKeepsThePendingOperator", "5+3" + Escape + "2=", "7", ""},
-        KeyCase{"ClearTwiceClearsAll", "5+3" + Escape + Escape + "2=", "2.", ""},
-        KeyCase{"FifteenDigitsCarry", "1/3=X3=", "0.999999999999999", ""},
-        KeyCase{"RecallMidEntryThenADigit", "12" + MemoryAdd + Escape + "3" + MemoryRecall + "5",
-                "15.", "", "Mem:  12"},
-        KeyCase{"MemoryRecallOfZeroKeepsTheEntry", "8" + MemoryAdd + MemorySubtract + MemoryRecall,
-                "8.", ""},
+TEST(CalculatorMachine, KeysGiveTheReadoutMemoryAndMessages) {
+    const std::pair<std::string, std::string> cases[] = {
+        {"2+3X4=", "20||=0 Ops"}, // left to right, without precedence
+        {"0", "0.|| 0 None"},
+        {".05", "0.05|| 0 Nums"},
+        {"5+=", "10||=0 Ops"},
+        {"5++3=", "8||=0 Ops"},
+        {"2*3=7-1=", "6||=0 Ops"},
+        {"7/0=", "7.||=0 Ops|Can't divide by zero"},
+        {"7/0=+1=", "8||=0 Ops|Can't divide by zero"},
+        {"~", "0.|| 0 None"},
+        {"5~~", "5.|| 0 Nums"},
+        {"5~", "-5.|| 0 Nums"},
+        {"4~@", "-4.|| 0 Nums|Change sign to +."},
+        {"2.25@", "1.5||=0 Ops"},
+        {"200X10%", "20||=0 Ops"}, // a percent scales the entry, and takes no share
+        {"200+10%", "200.1||=0 Ops"},
+        {"5+3" + Esc + "2=", "7||=0 Ops"},
+        {"5+3" + Esc + Esc + "2=", "2.||=0 Ops"},
+        {"1/3=X3=", "0.999999999999999||=0 Ops"},
+        {"5" + Esc, "0.|| 1 ClearEntry"},
+        {"5" + Esc + "+~" + Esc, "0.|| 0 None"}, // a clear after an operator clears all
+        {"5" + Esc + "+~" + Esc + Esc + "%", "0||=0 Ops"},
+        {"12" + MemAdd + Esc + "3" + MemRecall + "5", "15.|Mem:  12| 0 Nums"},
+        {"8" + MemAdd + MemMinus + MemRecall, "8.|| 0 Nums"},
         // Memory keys leave the entry open; a clear starts the next one.
-        KeyCase{"MemoryAdds", "2.5" + MemoryAdd, "2.5", "", "Mem:  2.5"},
-        KeyCase{"MemorySubtracts", "2.5" + MemoryAdd + Escape + "4" + MemorySubtract, "4.", "",
-                "Mem:  -1.5"},
-        KeyCase{"MemoryOfZeroShowsNothing",
-                "2.5" + MemoryAdd + Escape + "4" + MemorySubtract + Escape + "1.5" + MemoryAdd,
-                "1.5", "", ""},
-        KeyCase{"MemoryCleared", "9" + MemoryAdd + "\x0c", "9.", "", ""}, // Ctrl+L
-        KeyCase{"OverflowResetsAllButTheMemory",
-                "4" + MemoryAdd + std::string(200, '9') + "X" + std::string(200, '9') + "+3=", "3.",
-                "Sorry, Overflow!", "Mem:  4"},
-        KeyCase{"Overflow", std::string(200, '9') + "X" + std::string(200, '9') + "=", "0.",
-                "Sorry, Overflow!"}),
-    [](const testing::TestParamInfo<KeyCase>& info) { return std::string(info.param.name); });
-
-TEST(CalculatorMachine, ClearCountsPressesInARowAcrossOperators) {
-    CalculatorMachine machine;
-    typeKeys(machine, "0");
-    EXPECT_EQ(machine.lastInput(), LastInputKind::None);
-    typeKeys(machine, "5" + Escape);
-    EXPECT_EQ(machine.lastInput(), LastInputKind::ClearEntry);
-    EXPECT_EQ(machine.clearPresses(), 1);
-    typeKeys(machine, "+~" + Escape);
-    EXPECT_EQ(machine.clearPresses(), 0);
-    EXPECT_EQ(machine.pendingOperator(), " ");
-    EXPECT_EQ(machine.lastInput(), LastInputKind::None);
-    typeKeys(machine, Escape + "%");
-    EXPECT_EQ(machine.clearPresses(), 0);
+        {"2.5" + MemAdd, "2.5|Mem:  2.5| 0 Nums"},
+        {"2.5" + MemAdd + Esc + "4" + MemMinus, "4.|Mem:  -1.5| 0 Nums"},
+        {"2.5" + MemAdd + Esc + "4" + MemMinus + Esc + "1.5" + MemAdd, "1.5|| 0 Nums"},
+        {"9" + MemAdd + "\x0c", "9.|| 0 Nums"}, // Ctrl+L
+        {"4" + MemAdd + Nines + "X" + Nines + "+3=", "3.|Mem:  4|=0 Ops|Sorry, Overflow!"},
+        {Nines + "X" + Nines + "=", "0.|| 0 None|Sorry, Overflow!"},
+    };
+    for (const auto& [keys, expected] : cases)
+        EXPECT_EQ(AfterKeys(keys), expected) << keys;
 }
 
 TEST(NumericText, ReadsTheLongestPrefixAndWritesFifteenDigits) {
-    EXPECT_EQ(NumericValue("12."), 12);
-    EXPECT_EQ(NumericValue("-3.5x"), -3.5);
-    EXPECT_EQ(NumericValue("1E+20"), 1e20);
-    EXPECT_EQ(NumericValue("  7E"), 7);
-    EXPECT_EQ(NumericValue(""), 0);
-    EXPECT_EQ(NumericValue("abc"), 0);
-    EXPECT_EQ(NumericValue("1E-400"), 0);
+    const std::pair<const char*, double> read[] = {
+        {"12.", 12}, {"-3.5x", -3.5}, {"1E+20", 1e20}, {"  7E", 7},
+        {"", 0},     {"abc", 0},      {"1E-400", 0},
+    };
+    for (const auto& [text, value] : read)
+        EXPECT_EQ(NumericValue(text), value) << text;
     EXPECT_TRUE(std::isinf(NumericValue("-1E+400")));
-    EXPECT_EQ(FloatText(5), "5");
-    EXPECT_EQ(FloatText(0.5), "0.5");
-    EXPECT_EQ(FloatText(1e20), "1E+20");
-    EXPECT_EQ(FloatText(-0.0), "0");
-    EXPECT_EQ(FloatText(123456789012345678.0), "1.23456789012346E+17");
+    const std::pair<double, const char*> written[] = {
+        {5, "5"},
+        {0.5, "0.5"},
+        {1e20, "1E+20"},
+        {-0.0, "0"},
+        {123456789012345678.0, "1.23456789012346E+17"},
+    };
+    for (const auto& [value, text] : written)
+        EXPECT_EQ(FloatText(value), text);
 }
 
 } // namespace

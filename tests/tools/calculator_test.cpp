@@ -1,14 +1,16 @@
-// The calculator on screen: its captions, keys wherever the focus stands, and its messages.
+// The calculator on screen: keys wherever the focus stands, the memory that outlives closing,
+// its messages and its help.
 
 #include "tests/support/screen_fixture.h"
+#include "tests/support/screen_script.h"
 #include "tools/calculator.h"
 
-#include <QApplication>
 #include <QLabel>
-#include <QPushButton>
 #include <QTest>
 
 #include <memory>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace tessera {
 
@@ -19,80 +21,56 @@ private:
     std::unique_ptr<ScreenFixture> f;
     std::unique_ptr<Calculator> calculator;
 
-    QPushButton* button(const char* name) const {
-        return calculator->findChild<QPushButton*>(QString::fromLatin1(name));
-    }
-
-private Q_SLOTS:
-    void init() {
-        f = std::make_unique<ScreenFixture>();
+    void open() {
         calculator = std::make_unique<Calculator>(f->context);
         calculator->show();
         calculator->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(calculator.get()));
     }
+    // The readout, the memory line, the control with the focus, the clears in a row, the help
+    // topic, the screens asked for, and the messages.
+    std::string rendered() const {
+        return (calculator->Readout->text() + u'|' + calculator->Label1->text() + u'|' +
+                (calculator->isVisible() ? calculator->focusWidget()->objectName() : u"closed"_s))
+                   .toStdString() +
+               "|clears " + std::to_string(calculator->machine().clearPresses()) + "|help " +
+               std::to_string(f->state.HelpTopic) + "|" + f->screens.callsText() + "|" +
+               f->dialogs.messagesText().toStdString();
+    }
 
-    void cleanup() {
+private Q_SLOTS:
+    void keysAndClicksWhereverTheFocusStands() {
+        const std::pair<std::string, std::string> cases[] = {
+            // "0" on "0." does nothing at all, not even move the focus.
+            {"focus Command1_3; click Number_0", "0.||Command1_3|clears 0|help 1||"},
+            // A digit leaves the focus on "=", so Enter means "=" after a number.
+            {"keys 2+3", "3.||Operator_4|clears 0|help 1||"},
+            {"keys 2+3x4; key Return", "20||Operator_4|clears 0|help 1||"},
+            {"focus Number_7; key Return", "7.||Operator_4|clears 0|help 1||"},
+            {"keys 9; key F9; key Ctrl+M; key Esc; key Ctrl+R",
+             "9|Mem:  9|Number_10|clears 0|help 1||"},
+            {"keys 9; key Ctrl+P; key Ctrl+C", "9.|Mem:  9|closed|clears 0|help 1||"},
+            // The memory outlives closing, and shows once used.
+            {"keys 9; key Ctrl+P; key Ctrl+C; open; click Command1_4",
+             "9||Number_0|clears 0|help 1||"},
+            // The machine's words, title and icon reach the dialogs as they are.
+            {"keys 7/0=; keys " + std::string(400, '9') + "x=",
+             "0.||Operator_4|clears 0|help 1||Calculator (ok): Can't divide by zero | ERROR "
+             "(exclamation ok): Sorry, Overflow!"},
+            {"keys 5; key Esc; click Command1_2",
+             "0.||Operator_4|clears 0|help 15|unload Help, show Help|"},
+        };
+        for (const auto& [steps, expected] : cases) {
+            calculator.reset();
+            f.reset(); // the old folder gives the current directory back first
+            f = std::make_unique<ScreenFixture>();
+            open();
+            ScreenScript([this] { return calculator.get(); }, f->dialogs)
+                .with("open", [this](const QString&) { open(); })
+                .run(steps);
+            QCOMPARE(rendered(), expected);
+        }
         calculator.reset();
-        f.reset();
-    }
-
-    void typedKeysWorkWhereverTheFocusStands() {
-        button("Command1_3")->setFocus();
-        button("Number_0")->click(); // on "0." it does nothing at all, not even move the focus
-        QCOMPARE(QApplication::focusWidget(), button("Command1_3"));
-        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("2+3"));
-        // A digit leaves the focus on "=", so Enter means "=" after a number.
-        QCOMPARE(QApplication::focusWidget(), button("Operator_4"));
-        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("x4"));
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-        QCOMPARE(calculator->Readout->text(), QStringLiteral("20"));
-        button("Number_7")->setFocus();
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-        QCOMPARE(calculator->Readout->text(), QStringLiteral("7."));
-    }
-
-    void controlKeysAndF9() {
-        QTest::keyClicks(button("Number_5"), QStringLiteral("9"));
-        QTest::keyClick(button("Number_5"), Qt::Key_F9);
-        QCOMPARE(calculator->Readout->text(), QStringLiteral("-9."));
-        QCOMPARE(QApplication::focusWidget(), button("Number_10"));
-        QTest::keyClick(button("Number_10"), Qt::Key_M, Qt::ControlModifier);
-        QCOMPARE(calculator->Label1->text(), QStringLiteral("Mem:  9"));
-        QTest::keyClick(button("Number_10"), Qt::Key_Escape);
-        QTest::keyClick(button("Number_10"), Qt::Key_R, Qt::ControlModifier);
-        QCOMPARE(calculator->Readout->text(), QStringLiteral("9"));
-        QTest::keyClick(button("Number_10"), Qt::Key_C, Qt::ControlModifier);
-        QVERIFY(!calculator->isVisible());
-        calculator = std::make_unique<Calculator>(f->context); // the memory outlives closing
-        QVERIFY(calculator->Label1->text().isEmpty());
-        button("Command1_4")->click();
-        QCOMPARE(calculator->Readout->text(), QStringLiteral("9"));
-    }
-
-    // The machine's words, title and icon reach the dialogs as they are.
-    void messagesGoThroughTheDialogs() {
-        QTest::keyClicks(button("Number_1"), QStringLiteral("7/0="));
-        QTest::keyClicks(button("Number_1"), QString(400, QLatin1Char('9')) + QStringLiteral("x="));
-        const auto& shown = f->dialogs.messages();
-        QCOMPARE(shown.size(), size_t{2});
-        QCOMPARE(shown[0].title, QStringLiteral("Calculator"));
-        QCOMPARE(shown[0].icon, MessageIcon::None);
-        QCOMPARE(shown[1].text, QStringLiteral("Sorry, Overflow!"));
-        QCOMPARE(shown[1].title, QStringLiteral("ERROR"));
-        QCOMPARE(shown[1].icon, MessageIcon::Exclamation);
-        QCOMPARE(calculator->Readout->text(), QStringLiteral("0."));
-    }
-
-    void helpOpensTopicFifteenAfresh() {
-        QTest::keyClicks(button("Number_1"), QStringLiteral("5"));
-        QTest::keyClick(button("Number_1"), Qt::Key_Escape);
-        button("Command1_2")->click();
-        QCOMPARE(f->state.HelpTopic, 15);
-        const std::vector<ScreenCall> expected = {{ScreenCallKind::Unload, ScreenName::Help},
-                                                  {ScreenCallKind::Show, ScreenName::Help}};
-        QCOMPARE(f->screens.calls(), expected);
-        QCOMPARE(calculator->machine().clearPresses(), 0);
     }
 };
 

@@ -2,6 +2,7 @@
 
 #include "tests/support/faulty_files.h"
 #include "tests/support/screen_fixture.h"
+#include "tests/support/screen_script.h"
 #include "tools/preferences.h"
 
 #include <QCheckBox>
@@ -11,144 +12,113 @@
 #include <QPushButton>
 #include <QTest>
 
-#include <memory>
+#include <optional>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace tessera {
+
+namespace {
+
+// A header full of marks, so that a stray write shows.
+const std::string Marked = std::string("\x01\x00\x01\x00\x46", 5) + std::string(935, '\x5A');
+
+struct Options : ScreenFixture {
+    Options() {
+        state.ScrambleQuestions = true;
+        state.TimerActive = true;
+        folder.write("TesseraConfig.MS", Marked);
+        dialog = new Preferences(context);
+        dialog->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    ~Options() { delete dialog; }
+    void run(const std::string& steps) {
+        ScreenScript(*dialog, dialogs)
+            .with("grade",
+                  [this](const QString& typed) {
+                      dialog->Check5->click();
+                      dialog->Text1->clear();
+                      QTest::keyClicks(dialog->Text1, typed);
+                  })
+            .with("full", [this](const QString&) { full.emplace(FaultyFiles::Fault::DiskFull, 1); })
+            .run(steps);
+    }
+    // The boxes ticked and the pictures and grade box shown (x), the grade box's text, whether
+    // changes are pending and the grade they hold; the session's options and help topic; the
+    // header's option bytes; the screens asked for and the messages.
+    std::string rendered() const {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        std::string text = "closed";
+        if (dialog) {
+            text = "";
+            for (const QCheckBox* box :
+                 {dialog->Check1, dialog->Check2, dialog->Check3, dialog->Check5})
+                text += box->isChecked() ? 'x' : '-';
+            text += ' ';
+            for (const QWidget* shown : std::initializer_list<const QWidget*>{
+                     dialog->Picture1, dialog->Picture2, dialog->Text1, dialog->Label2[0]})
+                text += shown->isHidden() ? '-' : 'x';
+            text += " '" + dialog->Text1->text().toStdString() + "' " +
+                    (dialog->changesPending() ? "pending " : "") +
+                    std::to_string(dialog->chosenOptions().PassingGrade);
+        }
+        const std::string file = folder.read("TesseraConfig.MS");
+        text += " | " + std::to_string(state.ScrambleQuestions) + std::to_string(state.SoundOn) +
+                std::to_string(state.TimerActive) + std::to_string(state.IncludeProgressReport) +
+                " " + std::to_string(state.PassingGrade) + " help " +
+                std::to_string(state.HelpTopic) + " | file";
+        for (int i = 0; i < 5; ++i)
+            text += ' ' + std::to_string(file[i]);
+        return text + (file.substr(5) == Marked.substr(5) ? "" : " and more") + " | " +
+               screens.callsText() + " | " + dialogs.messagesText().toStdString();
+    }
+
+    QPointer<Preferences> dialog;
+    std::optional<FaultyFiles> full;
+};
+
+const std::string Untouched = " | 1010 70 help 1 | file 1 0 1 0 70 |  | ";
+const std::string Asked =
+    " |  | Change in Preferences Detected! (yes/no): Save your preference changes?";
+
+} // namespace
 
 class PreferencesTest : public QObject {
     Q_OBJECT
 
-private:
-    std::unique_ptr<ScreenFixture> f;
-
-    // A 940-byte header full of marks, so a stray write shows.
-    std::string markedHeader() const {
-        std::string bytes(940, '\x5A');
-        bytes.replace(0, 5, std::string("\x01\x00\x01\x00\x46", 5));
-        return bytes;
-    }
-
 private Q_SLOTS:
-    void init() {
-        // The old folder gives the current directory back before the new one takes it.
-        f.reset();
-        f = std::make_unique<ScreenFixture>();
-        f->state.ScrambleQuestions = true;
-        f->state.TimerActive = true;
-        f->folder.write("TesseraConfig.MS", markedHeader());
-    }
-
-    void loadsTheOptionsWithNothingPending() {
-        Preferences dialog(f->context);
-        QVERIFY(dialog.Check1->isChecked());
-        QVERIFY(!dialog.Check2->isChecked());
-        QVERIFY(dialog.Check3->isChecked());
-        QVERIFY(!dialog.Check5->isChecked());
-        QVERIFY(!dialog.Picture1->isHidden());
-        QVERIFY(dialog.Picture2->isHidden());
-        QVERIFY(dialog.Text1->isHidden());
-        QVERIFY(dialog.Label2[0]->isHidden());
-        QCOMPARE(dialog.Text1->text(), QStringLiteral("70"));
-        QVERIFY(!dialog.changesPending());
-        dialog.Check2->click();
-        QVERIFY(!dialog.Picture2->isHidden());
-        QVERIFY(dialog.changesPending());
-    }
-
-    void gradeBoxKeepsWithinZeroToHundred_data() {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("shown");
-        QTest::addColumn<int>("saved");
-        QTest::newRow("above 100") << "150"
-                                   << "100" << 100;
-        QTest::newRow("negative") << "-5"
-                                  << "0" << 0;
-        QTest::newRow("fraction rounds") << "82.6"
-                                         << "82.6" << 83;
-        QTest::newRow("no number") << "abc"
-                                   << "abc" << 0;
-        QTest::newRow("leading blanks") << "  65"
-                                        << "  65" << 65;
-    }
-
-    void gradeBoxKeepsWithinZeroToHundred() {
-        QFETCH(QString, typed);
-        QFETCH(QString, shown);
-        QFETCH(int, saved);
-        Preferences dialog(f->context);
-        dialog.Check5->click();
-        dialog.Text1->clear();
-        QTest::keyClicks(dialog.Text1, typed);
-        QCOMPARE(dialog.Text1->text(), shown);
-        QVERIFY(dialog.changesPending());
-        QCOMPARE(dialog.chosenOptions().PassingGrade, saved);
-    }
-
-    void saveWritesTheFiveOptionBytesAndNothingElse() {
-        auto* dialog = new Preferences(f->context);
-        dialog->setAttribute(Qt::WA_DeleteOnClose);
-        dialog->Check1->click();
-        dialog->Check2->click();
-        dialog->Check5->click();
-        dialog->Check5->click(); // off again: the grade hides but keeps what it holds
-        dialog->Text1->setText(QStringLiteral("85"));
-        QVERIFY(dialog->Text1->isHidden());
-        QPointer<Preferences> watch(dialog);
-        dialog->Command1->click();
-        QTRY_VERIFY(watch.isNull());
-        QVERIFY(f->dialogs.messages().empty());
-        QVERIFY(!f->state.ScrambleQuestions && f->state.SoundOn && f->state.TimerActive);
-        QVERIFY(!f->state.IncludeProgressReport);
-        QCOMPARE(f->state.PassingGrade, 85);
-        std::string expected = markedHeader();
-        expected.replace(0, 5, std::string("\x00\x01\x01\x00\x55", 5));
-        QVERIFY(f->folder.read("TesseraConfig.MS") == expected);
-    }
-
-    void aFailedSaveIsToldAndTheFileKept() {
-        const std::string before = f->folder.read("TesseraConfig.MS");
-        Preferences dialog(f->context);
-        dialog.Check2->click();
-        {
-            FaultyFiles full(FaultyFiles::Fault::DiskFull, 1);
-            dialog.Command1->click();
+    void clicksShowAndSaveTheOptions() {
+        const std::pair<std::string, std::string> cases[] = {
+            {"", "x-x- x--- '70' 70" + Untouched},
+            {"click Check2", "xxx- xx-- '70' pending 70" + Untouched},
+            // The grade box keeps within 0 to 100; the grade saved is rounded.
+            {"grade 150", "x-xx x-xx '100' pending 100" + Untouched},
+            {"grade -5", "x-xx x-xx '0' pending 0" + Untouched},
+            {"grade 82.6", "x-xx x-xx '82.6' pending 83" + Untouched},
+            {"grade abc", "x-xx x-xx 'abc' pending 0" + Untouched},
+            {"grade   65", "x-xx x-xx '  65' pending 65" + Untouched},
+            // Off again, the grade box hides but keeps what it holds.
+            {"click Check1; click Check2; click Check5; click Check5; fill Text1 85; click "
+             "Command1",
+             "closed | 0110 85 help 1 | file 0 1 1 0 85 |  | "},
+            {"click Check2; full; click Command1",
+             "closed | 1110 70 help 1 | file 1 0 1 0 70 |  | Preferences Not Saved (critical ok): "
+             "Your "
+             "preferences could not be written to TesseraConfig.MS. They hold until you quit; make "
+             "sure the study folder can be written to, then save them again."},
+            {"click Check2; answer No; click Command2",
+             "closed | 1010 70 help 1 | file 1 0 1 0 70" + Asked},
+            {"click Check2; answer Yes; click Command2",
+             "closed | 1110 70 help 1 | file 1 1 1 0 70" + Asked},
+            {"click Command2", "closed" + Untouched},
+            {"click Command3",
+             "x-x- x--- '70' 70 | 1010 70 help 3 | file 1 0 1 0 70 | unload Help, modal Help | "},
+        };
+        for (const auto& [steps, expected] : cases) {
+            Options o;
+            o.run(steps);
+            QCOMPARE(o.rendered(), expected);
         }
-        QCOMPARE(f->dialogs.titles(), QStringList{QStringLiteral("Preferences Not Saved")});
-        QVERIFY(f->state.SoundOn); // for this run
-        QVERIFY(f->folder.read("TesseraConfig.MS") == before);
-    }
-
-    void closingWithChangesAsksWhetherToSave() {
-        for (const MessageAnswer answer : {MessageAnswer::No, MessageAnswer::Yes}) {
-            init();
-            Preferences dialog(f->context);
-            dialog.Check2->click();
-            f->dialogs.answer(answer);
-            dialog.Command2->click();
-            QCOMPARE(f->dialogs.messages().size(), size_t{1});
-            const ShownMessage& shown = f->dialogs.messages()[0];
-            QCOMPARE(shown.text, QStringLiteral("Save your preference changes?"));
-            QCOMPARE(shown.title, QStringLiteral("Change in Preferences Detected!"));
-            QCOMPARE(shown.buttons, MessageButtons::YesNo);
-            QCOMPARE(f->state.SoundOn, answer == MessageAnswer::Yes);
-            QCOMPARE(f->folder.read("TesseraConfig.MS")[1], answer == MessageAnswer::Yes ? 1 : 0);
-        }
-    }
-
-    void cancelWithoutChangesAsksNothing() {
-        Preferences dialog(f->context);
-        dialog.Command2->click();
-        QVERIFY(f->dialogs.messages().empty());
-        QVERIFY(f->folder.read("TesseraConfig.MS") == markedHeader());
-    }
-
-    void helpOpensTopicThreeAfresh() {
-        Preferences dialog(f->context);
-        dialog.Command3->click();
-        QCOMPARE(f->state.HelpTopic, 3);
-        const std::vector<ScreenCall> expected = {{ScreenCallKind::Unload, ScreenName::Help},
-                                                  {ScreenCallKind::ShowModal, ScreenName::Help}};
-        QCOMPARE(f->screens.calls(), expected);
     }
 };
 

@@ -1,170 +1,142 @@
 // The text and glossary viewer driven as a reader would: letter buttons and keys, the find
 // panel with its wrap round, and the discussion text's title, printing and help.
 
-#include "core/screen_context.h"
 #include "platform/rich_text_view.h"
 #include "tests/support/screen_fixture.h"
+#include "tests/support/screen_script.h"
 #include "tools/viewing.h"
 
-#include <QCheckBox>
-#include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
-#include <QRadioButton>
-#include <QtTest>
+#include <QTest>
 
 #include <memory>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace tessera {
+
+namespace {
+
+struct Viewer : ScreenFixture {
+    void run(const std::string& steps) {
+        ScreenScript([this] { return viewing.get(); }, dialogs)
+            .with("open",
+                  [this](const QString& section) {
+                      state.ViewerSection = static_cast<int16_t>(section.toInt());
+                      viewing = std::make_unique<Viewing>(context);
+                      viewing->show();
+                  })
+            // A letter button pressed, as often as asked.
+            .with("press",
+                  [this](const QString& letter) {
+                      for (int i = 0; i < qMax(1, letter.mid(2).toInt()); ++i)
+                          QTest::mouseClick(viewing->Command3[letter[0].unicode() - 'A'],
+                                            Qt::LeftButton);
+                  })
+            .with("topic", [this](const QString& topic) { state.HelpTopic = topic.toShort(); })
+            .with("noprinter", [this](const QString&) { state.PrinterProblem = true; })
+            .run(steps);
+    }
+    // The title; the term chosen and its row; the control with the focus; the first line of
+    // each text box; which commands are enabled (x), disabled (-) or hidden (.); the letters
+    // without terms; the help topic, the screens asked for, and the messages.
+    std::string rendered() const {
+        const auto firstLine = [](const RichTextView* box) {
+            return box->text().trimmed().section(u'\n', 0, 0);
+        };
+        QString text = viewing->windowTitle() + u'|';
+        if (viewing->List1->isVisible())
+            text +=
+                viewing->List1->currentItem()->text() + u" %1|"_s.arg(viewing->List1->currentRow());
+        text += (viewing->focusWidget() ? viewing->focusWidget()->objectName() : u"-"_s) + u'|' +
+                firstLine(viewing->RichTextBox1) + u'|' + firstLine(viewing->RichTextBox2) + u'|';
+        for (const QPushButton* command : viewing->Command1)
+            text += !command->isVisible() ? u'.' : command->isEnabled() ? u'x' : u'-';
+        text += u"|off "_s;
+        for (const QPushButton* letter : viewing->Command3)
+            if (!letter->isEnabled())
+                text += letter->text();
+        return (text + u"|help %1|"_s.arg(state.HelpTopic)).toStdString() + screens.callsText() +
+               "|" + dialogs.messagesText().toStdString();
+    }
+
+    std::unique_ptr<Viewing> viewing;
+};
+
+const std::string Find = "open 8; click Command1_6; ";
+const std::string Glossary = "Glossary of Key Terms|";
+const std::string Tail = "|off QX|help 1||";
+const std::string Needle =
+    "Oterm 014 699|Text2|Meaning number 700 with a hidden needle.|Oterm 014|";
+const std::string AtoZ = "ABCDEFGHIJKLMNOPQRSTUVWXYZ";
+const std::string InDefinitions =
+    Find + "click Option1_1; fill Text2 hidden needle; click Command1_4";
+
+} // namespace
 
 class ViewingTest : public QObject {
     Q_OBJECT
 
-private:
-    std::unique_ptr<ScreenFixture> f;
-
-    std::unique_ptr<Viewing> open(int section) {
-        f->state.ViewerSection = static_cast<int16_t>(section);
-        auto viewing = std::make_unique<Viewing>(f->context);
-        viewing->show();
-        return viewing;
-    }
-    static QString selectedTerm(const Viewing& viewing) {
-        return viewing.List1->currentItem()->text();
-    }
-    static void press(Viewing& viewing, int letter) {
-        QTest::mouseClick(viewing.Command3[letter], Qt::LeftButton);
-    }
-    static constexpr int M = 12, Q = 16, T = 19, Z = 25;
-
 private Q_SLOTS:
-    void init() { f = std::make_unique<ScreenFixture>(); }
-    void cleanup() { f.reset(); }
-
-    void letterButtonsFindTheFirstTermOfTheirLetter() {
-        auto viewing = open(Viewing::GlossarySection);
-        QCOMPARE(viewing->windowTitle(), QStringLiteral("Glossary of Key Terms"));
-        QCOMPARE(viewing->List1->count(), GlossaryEntryCount);
-        QCOMPARE(selectedTerm(*viewing), QStringLiteral("Aterm 001"));
-        QVERIFY(viewing->RichTextBox2->text().contains(QStringLiteral("Aterm 001")));
-        QVERIFY(viewing->RichTextBox1->text().contains(QStringLiteral("Meaning number 1.")));
-        QVERIFY(!viewing->Command3[Q]->isEnabled());
-        QVERIFY(!viewing->Command1[0]->isVisible());
-        const QSize definition = viewing->RichTextBox1->size(),
-                    term = viewing->RichTextBox2->size();
-        viewing->resize(viewing->width(), 2 * viewing->height()); // as maximising does
-        QVERIFY(viewing->RichTextBox1->height() > definition.height());
-        QVERIFY(viewing->RichTextBox2->height() > term.height());
-
-        press(*viewing, M);
-        QCOMPARE(selectedTerm(*viewing), QStringLiteral("Mterm 001"));
-        QVERIFY(viewing->RichTextBox2->text().contains(QStringLiteral("Mterm 001")));
-        QCOMPARE(viewing->focusWidget(), viewing->Command3[M]);
-        press(*viewing, M); // the same letter again walks on through its terms
-        QCOMPARE(selectedTerm(*viewing), QStringLiteral("Mterm 002"));
-
-        // Keys on a letter button jump too; a letter without terms does nothing.
-        QTest::keyClick(viewing->Command3[M], Qt::Key_T);
-        QCOMPARE(selectedTerm(*viewing), QStringLiteral("Tterm 001"));
-        QTest::keyClick(viewing->Command3[T], Qt::Key_Q);
-        QCOMPARE(selectedTerm(*viewing), QStringLiteral("Tterm 001"));
+    void lettersFindAndHelp() {
+        const std::pair<std::string, std::string> cases[] = {
+            {"open 8", Glossary + "Aterm 001 0|-|Meaning number 1.|Aterm 001|.xxx..x" + Tail},
+            // A letter finds its first term; again, it walks on through its terms, and from the
+            // last term of the list it starts over. "A" counts as the letter last used.
+            {"open 8; press M",
+             Glossary + "Mterm 001 588|Command3_12|Meaning number 589.|Mterm 001|.xxx..x" + Tail},
+            {"open 8; press M 2",
+             Glossary + "Mterm 002 589|Command3_12|Meaning number 590.|Mterm 002|.xxx..x" + Tail},
+            {"open 8; press A",
+             Glossary + "Aterm 002 1|Command3_0|Meaning number 2.|Aterm 002|.xxx..x" + Tail},
+            {"open 8; press A 49",
+             Glossary + "Aterm 001 0|Command3_0|Meaning number 1.|Aterm 001|.xxx..x" + Tail},
+            {"open 8; press Z 54",
+             Glossary + "Zterm 054 1180|Command3_25|Meaning number 1181.|Zterm 054|.xxx..x" + Tail},
+            {"open 8; press Z 55",
+             Glossary + "Zterm 001 1127|Command3_25|Meaning number 1128.|Zterm 001|.xxx..x" + Tail},
+            // Keys on a letter button jump too; a letter without terms does nothing.
+            {"open 8; press M; keys T; keys Q",
+             Glossary + "Tterm 001 882|Command3_19|Meaning number 883.|Tterm 001|.xxx..x" + Tail},
+            {Find + "keys   mterm 003; key Return",
+             Glossary + "Mterm 003 590|Text2|Meaning number 591.|Mterm 003|.--xxxx" + Tail},
+            // Terms only: the whole list is searched once, then "Sorry!"; the definitions find
+            // it, and from that entry on only after wrapping round.
+            {Find + "fill Text2 hidden needle; click Command1_4",
+             Glossary + "Aterm 001 0|Text2|Meaning number 1.|Aterm 001|.--xxxx" + Tail +
+                 "Sorry! (question ok): hidden needle not found."},
+            {InDefinitions, Glossary + Needle + ".--xxxx" + Tail},
+            {InDefinitions + "; click Command1_4", Glossary + Needle + ".--xxxx" + Tail},
+            {InDefinitions +
+                 "; click Check1; fill Text2 Hidden Needle; click Command1_4; click Command1_5",
+             Glossary + Needle + ".xxx..x" + Tail +
+                 "Sorry! (question ok): Hidden Needle not found."},
+            // A discussion text takes no typing; its help is topic 4, and a help window on
+            // another topic goes first.
+            {"open 3; focus RichTextBox1; keys xyz; focus RichTextBox2; keys A; topic 9; click "
+             "Command1_3; click Command1_3",
+             "About Orlanda Academy|RichTextBox1|Discussion 3: read it twice.||xxxx...|off " +
+                 AtoZ + "|help 4|unload Help, show Help, show Help|"},
+            {"noprinter; open 2",
+             "How to Take the State Exam|-|Discussion 2: read it twice.||-xxx...|off " + AtoZ +
+                 "|help 1||"},
+        };
+        for (const auto& [steps, expected] : cases) {
+            Viewer v;
+            v.run(steps);
+            QCOMPARE(v.rendered(), expected);
+        }
     }
 
-    void repeatedPressesWalkAndWrapRound() {
-        auto viewing = open(Viewing::GlossarySection);
-        press(*viewing, 0); // "A" counts as the last letter used: the first press steps down
-        QCOMPARE(selectedTerm(*viewing), QStringLiteral("Aterm 002"));
-        for (int i = 0; i < 47; ++i)
-            press(*viewing, 0);
-        QCOMPARE(selectedTerm(*viewing), QStringLiteral("Aterm 049"));
-        press(*viewing, 0);
-        QCOMPARE(selectedTerm(*viewing), QStringLiteral("Aterm 001"));
-
-        press(*viewing, Z);
-        QCOMPARE(selectedTerm(*viewing), QStringLiteral("Zterm 001"));
-        for (int i = 0; i < 53; ++i)
-            press(*viewing, Z);
-        QCOMPARE(selectedTerm(*viewing), QStringLiteral("Zterm 054"));
-        QCOMPARE(viewing->List1->currentRow(), GlossaryEntryCount - 1);
-        press(*viewing, Z); // on the last term the letter starts over
-        QCOMPARE(selectedTerm(*viewing), QStringLiteral("Zterm 001"));
-    }
-
-    void findWrapsRoundOnceAndSaysSorryOnce() {
-        auto viewing = open(Viewing::GlossarySection);
-        QTest::mouseClick(viewing->Command1[6], Qt::LeftButton);
-        QVERIFY(viewing->Frame1->isVisible());
-        QVERIFY(!viewing->Command1[2]->isEnabled());
-        QVERIFY(!viewing->Command1[4]->isEnabled());
-        QCOMPARE(viewing->focusWidget(), viewing->Text2);
-
-        QTest::keyClicks(viewing->Text2, QStringLiteral("  mterm 003  "));
-        QVERIFY(viewing->Command1[4]->isEnabled());
-        QTest::keyClick(viewing->Text2, Qt::Key_Return);
-        QCOMPARE(selectedTerm(*viewing), QStringLiteral("Mterm 003"));
-
-        // Terms only: the whole list is searched once, then "Sorry!".
-        viewing->Text2->setText(QStringLiteral("hidden needle"));
-        QTest::mouseClick(viewing->Command1[4], Qt::LeftButton);
-        QCOMPARE(f->dialogs.messages().size(), size_t{1});
-        const ShownMessage& sorry = f->dialogs.messages().front();
-        QCOMPARE(sorry.text, QStringLiteral("hidden needle not found."));
-        QCOMPARE(sorry.title, QStringLiteral("Sorry!"));
-        QCOMPARE(sorry.icon, MessageIcon::Question);
-        QCOMPARE(selectedTerm(*viewing), QStringLiteral("Mterm 003"));
-
-        // In the definitions it is found; from that entry on only after wrapping round.
-        QTest::mouseClick(viewing->Option1[1], Qt::LeftButton);
-        QTest::mouseClick(viewing->Command1[4], Qt::LeftButton);
-        QCOMPARE(viewing->List1->currentRow(), 699);
-        QVERIFY(viewing->RichTextBox1->text().contains(QStringLiteral("hidden needle")));
-        QTest::mouseClick(viewing->Command1[4], Qt::LeftButton);
-        QCOMPARE(viewing->List1->currentRow(), 699);
-        viewing->Check1->setChecked(true);
-        viewing->Text2->setText(QStringLiteral("Hidden Needle"));
-        QTest::mouseClick(viewing->Command1[4], Qt::LeftButton);
-        QCOMPARE(f->dialogs.messages().size(), size_t{2});
-
-        QTest::mouseClick(viewing->Command1[5], Qt::LeftButton);
-        QVERIFY(!viewing->Frame1->isVisible());
-        QVERIFY(viewing->Command1[2]->isEnabled());
-    }
-
-    void discussionTextIsReadOnlyWithItsTitle() {
-        auto viewing = open(3);
-        QCOMPARE(viewing->windowTitle(), QStringLiteral("About Orlanda Academy"));
-        QCOMPARE(viewing->Label1->text(), QStringLiteral("Please Read Carefully..."));
-        QVERIFY(viewing->RichTextBox1->text().contains(QStringLiteral("Discussion 3")));
-        QVERIFY(!viewing->List1->isVisible());
-        QVERIFY(!viewing->Command1[6]->isVisible());
-        QVERIFY(viewing->Command1[0]->isEnabled());
-
-        const QString before = viewing->RichTextBox1->text();
-        QTest::keyClicks(viewing->RichTextBox1, QStringLiteral("xyz"));
-        QTest::keyClick(viewing->RichTextBox2, Qt::Key_A);
-        QCOMPARE(viewing->RichTextBox1->text(), before);
-
-        // Help on a text is topic 4, and a help window on another topic goes first.
-        f->state.HelpTopic = 9;
-        f->screens.clearCalls();
-        QTest::mouseClick(viewing->Command1[3], Qt::LeftButton);
-        QCOMPARE(f->state.HelpTopic, 4);
-        QCOMPARE(f->screens.calls(),
-                 (std::vector<ScreenCall>{{ScreenCallKind::Unload, ScreenName::Help},
-                                          {ScreenCallKind::Show, ScreenName::Help}}));
-        f->screens.clearCalls();
-        QTest::mouseClick(viewing->Command1[3], Qt::LeftButton);
-        QCOMPARE(f->screens.calls(),
-                 (std::vector<ScreenCall>{{ScreenCallKind::Show, ScreenName::Help}}));
-    }
-
-    void printerProblemLeavesTheTextUnprintable() {
-        f->state.PrinterProblem = true;
-        f->state.ViewerSection = 2;
-        Viewing viewing(f->context);
-        QVERIFY(!viewing.Command1[0]->isEnabled());
+    void theGlossaryBoxesGrowWithTheWindow() {
+        Viewer v;
+        v.run("open 8");
+        const int definition = v.viewing->RichTextBox1->height(),
+                  term = v.viewing->RichTextBox2->height();
+        v.viewing->resize(v.viewing->width(), 2 * v.viewing->height()); // as maximising does
+        QVERIFY(v.viewing->RichTextBox1->height() > definition);
+        QVERIFY(v.viewing->RichTextBox2->height() > term);
     }
 };
 
