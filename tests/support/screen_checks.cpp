@@ -2,7 +2,6 @@
 
 #include <QAccessible>
 #include <QLabel>
-#include <QPushButton>
 
 namespace tessera {
 
@@ -23,16 +22,6 @@ QStringList ControlsWithoutNames(const QWidget& screen) {
             nameless << widget->objectName();
     }
     return nameless;
-}
-
-QList<QChar> ButtonMnemonics(const QWidget& screen) {
-    QList<QChar> keys;
-    for (QPushButton* button : screen.findChildren<QPushButton*>()) {
-        const qsizetype amp = button->text().indexOf(QLatin1Char('&'));
-        if (amp >= 0 && amp + 1 < button->text().size())
-            keys << button->text().at(amp + 1).toLower();
-    }
-    return keys;
 }
 
 } // namespace tessera

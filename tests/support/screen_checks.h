@@ -1,7 +1,6 @@
 #pragma once
 // What every screen owes a keyboard and a screen reader user, as data a test can compare.
 
-#include <QList>
 #include <QStringList>
 
 class QWidget;
@@ -11,8 +10,5 @@ namespace tessera {
 // The object names of the screen's named controls that a screen reader would meet nameless.
 // Controls are the widgets with an object name; the parts Qt names itself ("qt_...") are not.
 QStringList ControlsWithoutNames(const QWidget& screen);
-
-// The mnemonic letter of each of the screen's push buttons that has one, in lower case.
-QList<QChar> ButtonMnemonics(const QWidget& screen);
 
 } // namespace tessera

@@ -54,7 +54,7 @@ QString ScriptedDialogs::messagesText() const {
         shown << QStringLiteral("%1 (%2%3): %4")
                      .arg(m.title, QLatin1String(icons[int(m.icon)]),
                           QLatin1String(buttons[int(m.buttons)]), m.text);
-    return shown.join(QStringLiteral(" | "));
+    return shown.join(u'\n');
 }
 
 } // namespace tessera

@@ -37,7 +37,7 @@ public:
     const std::vector<ShownMessage>& messages() const { return m_messages; }
     const std::vector<ShownInput>& inputs() const { return m_inputs; }
     QStringList titles() const;
-    // The messages as "Title (icon buttons): text", joined by " | ".
+    // The messages as "Title (icon buttons): text", one a line.
     QString messagesText() const;
     // Boxes shown after the script ran out. An unscripted box gets the answer that leaves
     // a question (Cancel, or Yes to a Yes/No question, and an empty input) so nothing loops.

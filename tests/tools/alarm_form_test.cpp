@@ -98,12 +98,12 @@ private Q_SLOTS:
             // Asked until the time is usable; a cancelled prompt offered the setting keeps it.
             {"type 25:00; type 2:00; type 14:00; type 4:00 PM; click Command1_0; click Command1_0",
              "alarm 4:00:00 PM 57600 ptm||Alarm Clock|tones|set" + Asked + Asked + Asked + Asked +
-                 Asked + "|" + NotValid + " | " + GoneBy + " | " + GoneBy},
+                 Asked + "|" + NotValid + "\n" + GoneBy + "\n" + GoneBy},
             // Once at the setting, not a second before, and again the next day.
             {"type 15:00:02; click Command1_0; tick 1; tick 1; tick 1; tick 3600; tick 43200; "
              "tick 39600",
              "alarm 3:00:02 PM 54002 -tm|3:00:03 PM|Alarm Clock|tones 1760/800 1760/800|set" +
-                 Asked + "|" + Hello + "3:00:02 PM | " + Hello + "3:00:03 PM"},
+                 Asked + "|" + Hello + "3:00:02 PM\n" + Hello + "3:00:03 PM"},
             {"at 23:55; row 0; click Command1_3",
              "alarm 12:05:00 AM 300 ptm||Alarm Clock|tones|set|"},
             {"at 23:55; row 0; click Command1_3; tick 1",

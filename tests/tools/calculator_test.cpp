@@ -55,7 +55,7 @@ private Q_SLOTS:
              "9||Number_0|clears 0|help 1||"},
             // The machine's words, title and icon reach the dialogs as they are.
             {"keys 7/0=; keys " + std::string(400, '9') + "x=",
-             "0.||Operator_4|clears 0|help 1||Calculator (ok): Can't divide by zero | ERROR "
+             "0.||Operator_4|clears 0|help 1||Calculator (ok): Can't divide by zero\nERROR "
              "(exclamation ok): Sorry, Overflow!"},
             {"keys 5; key Esc; click Command1_2",
              "0.||Operator_4|clears 0|help 15|unload Help, show Help|"},

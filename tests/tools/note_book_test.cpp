@@ -37,14 +37,6 @@ struct Notes : ScreenFixture {
         notebook->RichTextBox1->moveCursor(QTextCursor::End);
         QTest::keyClicks(notebook->RichTextBox1, words);
     }
-    void select(int start, int length) const {
-        notebook->RichTextBox1->setSelStart(start);
-        notebook->RichTextBox1->setSelLength(length);
-    }
-    void find(const char* what) const {
-        notebook->Text1->setText(QString::fromLatin1(what));
-        QTest::mouseClick(notebook->Command2[0], Qt::LeftButton);
-    }
     // Whether the notes are changed and open; the selection; the file's text; the messages.
     std::string rendered() const {
         RichTextView saved;
@@ -73,7 +65,8 @@ void CloseAndReopen(Notes& n, MessageAnswer answer) {
 
 // Changes the notebook with the mouse, then closes it without saving.
 void MouseEdit(Notes& n, const std::function<void(RichTextView&)>& edit) {
-    n.select(0, 9);
+    n.notebook->RichTextBox1->setSelStart(0);
+    n.notebook->RichTextBox1->setSelLength(9);
     edit(*n.notebook->RichTextBox1);
     n.dialogs.answer(MessageAnswer::No);
     n.notebook->close();
@@ -136,7 +129,7 @@ private Q_SLOTS:
                  n.notebook->close();
              },
              "changed open 41+|Contracts: offer and acceptance.|" + Asked +
-                 " | Notebook Not Saved (critical ok): Your notebook could not be written to "
+                 "\nNotebook Not Saved (critical ok): Your notebook could not be written to "
                  "TesseraNoteBook.RTF. Make sure the study folder can be written to and has "
                  "room, then save your notes again."},
         };
@@ -162,7 +155,8 @@ private Q_SLOTS:
         QCOMPARE(hits.join(u','),
                  QStringLiteral("open 0+Lease,open 14+lease,open 33+LEASE,open 0+Lease"));
         notebook.Check1->setChecked(true); // the capitals only, from behind the first hit
-        n.find("LEASE");
+        notebook.Text1->setText(QStringLiteral("LEASE"));
+        QTest::mouseClick(notebook.Command2[0], Qt::LeftButton);
         QCOMPARE(QString::fromStdString(n.rendered()).section(u'|', 0, 0),
                  QStringLiteral("open 33+LEASE"));
 
