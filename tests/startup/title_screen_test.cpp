@@ -10,7 +10,7 @@
 #include <QPointer>
 #include <QtTest>
 
-#include <memory>
+#include <optional>
 
 using namespace tessera;
 
@@ -25,45 +25,41 @@ QTimer* timer(QWidget* title) {
     return title->findChild<QTimer*>(QStringLiteral("Timer1"));
 }
 
+// The program on a folder with a content file, every service a double.
+struct Program {
+    Program() { folder.write("Tessera", "{\\rtf1 }\r\n"); }
+    ~Program() {
+        app.reset();
+        settle();
+    }
+    bool handedOver() const {
+        return app->find(ScreenName::ButtonMenu) != nullptr &&
+               app->find(ScreenName::Pubdat) == nullptr;
+    }
+    // The title screen of a first run, the name typed and confirmed; waits for the end of its
+    // start-up unless told not to.
+    QWidget* startFirstRun(bool wait = true) {
+        doubles.dialogs.type(QStringLiteral("Pat Doe"));
+        doubles.dialogs.answer(MessageAnswer::Yes);
+        QWidget* title = app->show(ScreenName::Pubdat);
+        return !wait || QTest::qWaitFor([title] { return timer(title)->isActive(); }) ? title
+                                                                                      : nullptr;
+    }
+
+    StudyFolder folder;
+    TestServices doubles;
+    std::optional<Application> app{std::in_place, doubles.services};
+};
+
 } // namespace
 
 class TitleScreenTest : public QObject {
     Q_OBJECT
 
-private:
-    std::unique_ptr<StudyFolder> m_folder;
-    std::unique_ptr<TestServices> m_doubles;
-    std::unique_ptr<Application> m_app;
-
-    bool handedOver() const {
-        return m_app->find(ScreenName::ButtonMenu) != nullptr &&
-               m_app->find(ScreenName::Pubdat) == nullptr;
-    }
-    // The title screen of a first run, the name typed and confirmed; waits for the end of its
-    // start-up unless told not to.
-    QWidget* startFirstRun(bool wait = true) {
-        m_doubles->dialogs.type(QStringLiteral("Pat Doe"));
-        m_doubles->dialogs.answer(MessageAnswer::Yes);
-        QWidget* title = m_app->show(ScreenName::Pubdat);
-        return !wait || QTest::qWaitFor([title] { return timer(title)->isActive(); }) ? title
-                                                                                      : nullptr;
-    }
-
 private Q_SLOTS:
-    void init() {
-        m_folder = std::make_unique<StudyFolder>();
-        m_folder->write("Tessera", "{\\rtf1 }\r\n");
-        m_doubles = std::make_unique<TestServices>();
-        m_app = std::make_unique<Application>(m_doubles->services);
-    }
-    void cleanup() {
-        m_app.reset();
-        settle();
-        m_folder.reset();
-    }
-
     void titleShowsTheUserAndHandsOverAfterFourSeconds() {
-        QPointer<QWidget> title = startFirstRun();
+        Program p;
+        QPointer<QWidget> title = p.startFirstRun();
         QVERIFY(title);
         QStringList shown;
         for (int index = 1; index <= 7; ++index)
@@ -73,73 +69,78 @@ private Q_SLOTS:
                  QStringLiteral("REAL ESTATE SALESPERSON TESSERA|Orlanda Academy presents...|EXAM "
                                 "PREPARATION|Pat Doe|Tessera Review Software Engineered by "
                                 "Ferrowick Labs|Third Edition"));
-        m_doubles->clock.advanceSeconds(4.0);
+        p.doubles.clock.advanceSeconds(4.0);
         QTest::qWait(450);
         QVERIFY2(title, "exactly 4 seconds is not yet more than 4");
-        m_doubles->clock.advanceSeconds(0.1);
-        QTRY_VERIFY(handedOver());
+        p.doubles.clock.advanceSeconds(0.1);
+        QTRY_VERIFY(p.handedOver());
         settle();
         QVERIFY(!title);
     }
 
     void aKeyHandsOverOnlyOnceStartUpIsDone() {
-        QWidget* title = startFirstRun(false);
+        Program p;
+        QWidget* title = p.startFirstRun(false);
         QTest::keyClick(title, Qt::Key_Space); // before it has been painted
-        QCOMPARE(m_app->find(ScreenName::Pubdat), title);
+        QCOMPARE(p.app->find(ScreenName::Pubdat), title);
         QTRY_VERIFY(timer(title)->isActive());
         QTest::keyClick(title, Qt::Key_Space);
-        QVERIFY(handedOver());
+        QVERIFY(p.handedOver());
     }
 
     void clickOnACaptionHandsOverAtOnce() {
-        QTest::mouseClick(Control<QLabel>(startFirstRun(), "Label1_1"), Qt::LeftButton);
-        QVERIFY(handedOver());
+        Program p;
+        QTest::mouseClick(Control<QLabel>(p.startFirstRun(), "Label1_1"), Qt::LeftButton);
+        QVERIFY(p.handedOver());
     }
 
     void missingContentFileEndsTheProgram() {
-        std::filesystem::remove(m_folder->path() / "Tessera");
-        QVERIFY(m_app->show(ScreenName::Pubdat) == nullptr);
-        QVERIFY(m_app->ended());
-        QCOMPARE(m_app->run(), 0);
-        QVERIFY(m_app->find(ScreenName::Pubdat) == nullptr);
+        Program p;
+        std::filesystem::remove(p.folder.path() / "Tessera");
+        QVERIFY(p.app->show(ScreenName::Pubdat) == nullptr);
+        QVERIFY(p.app->ended());
+        QCOMPARE(p.app->run(), 0);
+        QVERIFY(p.app->find(ScreenName::Pubdat) == nullptr);
     }
 
     void closingTheNavigationScreenEndsTheProgramAndDeletesTheMarker() {
-        QTest::keyClick(startFirstRun(), Qt::Key_Return);
-        QVERIFY(m_folder->exists("TesseraAppRunning"));
-        QWidget* menu = m_app->find(ScreenName::ButtonMenu);
+        Program p;
+        QTest::keyClick(p.startFirstRun(), Qt::Key_Return);
+        QVERIFY(p.folder.exists("TesseraAppRunning"));
+        QWidget* menu = p.app->find(ScreenName::ButtonMenu);
         QVERIFY(menu->isVisible());
         menu->close();
-        QVERIFY(m_app->ended());
-        QVERIFY(!m_folder->exists("TesseraAppRunning"));
-        QVERIFY(m_app->find(ScreenName::ButtonMenu) == nullptr);
-        QCOMPARE(m_doubles->dialogs.unscripted(), 0);
+        QVERIFY(p.app->ended());
+        QVERIFY(!p.folder.exists("TesseraAppRunning"));
+        QVERIFY(p.app->find(ScreenName::ButtonMenu) == nullptr);
+        QCOMPARE(p.doubles.dialogs.unscripted(), 0);
     }
 
     void screensLoadOnceUnloadForGoodAndKeepTheirPlace() {
-        m_app->registry().add(ScreenName::Calculator, [](ScreenContext&) { return new QWidget; });
-        SessionState& state = m_app->state();
+        Program p;
+        p.app->registry().add(ScreenName::Calculator, [](ScreenContext&) { return new QWidget; });
+        SessionState& state = p.app->state();
         state.WindowLeft[CalculatorSlot] = 120;
         state.WindowTop[CalculatorSlot] = 90;
-        QVERIFY(m_app->isAvailable(ScreenName::Calculator));
-        QVERIFY(!m_app->isAvailable(ScreenName::Aladdin)); // Quiz800 opens it itself
+        QVERIFY(p.app->isAvailable(ScreenName::Calculator));
+        QVERIFY(!p.app->isAvailable(ScreenName::Aladdin)); // Quiz800 opens it itself
 
-        QPointer<QWidget> calculator = m_app->show(ScreenName::Calculator);
-        QCOMPARE(m_app->load(ScreenName::Calculator), calculator.data());
+        QPointer<QWidget> calculator = p.app->show(ScreenName::Calculator);
+        QCOMPARE(p.app->load(ScreenName::Calculator), calculator.data());
         QCOMPARE(calculator->pos(), QPoint(120, 90));
         calculator->move(200, 150);
-        m_app->unload(ScreenName::Calculator);
-        QVERIFY(m_app->find(ScreenName::Calculator) == nullptr);
+        p.app->unload(ScreenName::Calculator);
+        QVERIFY(p.app->find(ScreenName::Calculator) == nullptr);
         settle();
         QVERIFY(!calculator);
         QCOMPARE(QPoint(state.WindowLeft[CalculatorSlot], state.WindowTop[CalculatorSlot]),
                  QPoint(200, 150));
 
         // A screen the user closes goes the same way.
-        calculator = m_app->show(ScreenName::Calculator);
+        calculator = p.app->show(ScreenName::Calculator);
         calculator->close();
         settle();
-        QVERIFY(!calculator && m_app->find(ScreenName::Calculator) == nullptr);
+        QVERIFY(!calculator && p.app->find(ScreenName::Calculator) == nullptr);
     }
 
     void toneModuleLoadsOnFirstUse() {
@@ -149,13 +150,14 @@ private Q_SLOTS:
     }
 
     void modalScreenReturnsWhenClosed() {
-        m_app->registry().add(ScreenName::Preferences, [](ScreenContext&) {
+        Program p;
+        p.app->registry().add(ScreenName::Preferences, [](ScreenContext&) {
             auto* screen = new QWidget;
             QTimer::singleShot(50, screen, &QWidget::close);
             return screen;
         });
-        m_app->showModal(ScreenName::Preferences);
-        QVERIFY(m_app->find(ScreenName::Preferences) == nullptr);
+        p.app->showModal(ScreenName::Preferences);
+        QVERIFY(p.app->find(ScreenName::Preferences) == nullptr);
     }
 };
 

@@ -13,45 +13,40 @@
 #include <QTextDocument>
 #include <QtTest>
 
-#include <memory>
-
 namespace tessera {
+
+namespace {
+
+struct Session {
+    Session() { FillSmallCourse(app.state()); }
+    TestServices doubles;
+    Application app{doubles.services};
+};
+
+// The help windows open, each as its text's first line.
+QString openHelpWindows() {
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QStringList shown;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (auto* help = qobject_cast<Help*>(window); help != nullptr && help->isVisible())
+            shown << help->RichTextBox1->text().trimmed();
+    }
+    return shown.join(u',');
+}
+qreal shownFontSize(const Help& help) {
+    QTextCursor cursor(help.RichTextBox1->document());
+    cursor.movePosition(QTextCursor::End);
+    return cursor.charFormat().fontPointSize();
+}
+
+} // namespace
 
 class HelpTest : public QObject {
     Q_OBJECT
 
-private:
-    std::unique_ptr<TestServices> m_doubles;
-    std::unique_ptr<Application> m_app;
-
-    // The help windows open, each as its text's first line.
-    static QString openHelpWindows() {
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QStringList shown;
-        for (QWidget* window : QApplication::topLevelWidgets()) {
-            if (auto* help = qobject_cast<Help*>(window); help != nullptr && help->isVisible())
-                shown << help->RichTextBox1->text().trimmed();
-        }
-        return shown.join(u',');
-    }
-    static qreal shownFontSize(const Help& help) {
-        QTextCursor cursor(help.RichTextBox1->document());
-        cursor.movePosition(QTextCursor::End);
-        return cursor.charFormat().fontPointSize();
-    }
-
 private Q_SLOTS:
-    void init() {
-        m_doubles = std::make_unique<TestServices>();
-        m_app = std::make_unique<Application>(m_doubles->services);
-        FillSmallCourse(m_app->state());
-    }
-    void cleanup() {
-        m_app.reset();
-        m_doubles.reset();
-    }
-
     void oneWindowOnTheLastCallersTopic() {
+        Session s;
         const std::tuple<HelpTopic, HelpOpening, QString> calls[] = {
             {HelpTopic::Glossary, HelpOpening::Comparing, QStringLiteral("Help text 7")},
             // The same topic keeps the window, which the next step would otherwise find apart.
@@ -62,24 +57,25 @@ private Q_SLOTS:
         };
         QWidget* first = nullptr;
         for (const auto& [topic, opening, shown] : calls) {
-            m_app->openHelp(m_app->state(), topic, opening);
+            s.app.openHelp(s.app.state(), topic, opening);
             QCOMPARE(openHelpWindows(), shown);
-            QCOMPARE(m_app->state().HelpTopic, int(topic));
+            QCOMPARE(s.app.state().HelpTopic, int(topic));
             if (first == nullptr)
-                first = m_app->find(ScreenName::Help);
+                first = s.app.find(ScreenName::Help);
             else if (topic == HelpTopic::Glossary)
-                QCOMPARE(m_app->find(ScreenName::Help), first); // not loaded again
+                QCOMPARE(s.app.find(ScreenName::Help), first); // not loaded again
         }
     }
 
     void maximisedShowsTheLargeVersionKeepingThePlaceAndTakesNoTyping() {
-        m_app->state().HelpTopic = 5;
-        std::string& text = m_app->state().content.HelpTexts[5];
+        Session s;
+        s.app.state().HelpTopic = 5;
+        std::string& text = s.app.state().content.HelpTexts[5];
         text = "\\par \\fs24 Help text 5";
         for (int line = 1; line <= 150; ++line)
             text += "\r\n\\par Line " + std::to_string(line);
         text += "\r\n\\par }\r\n";
-        auto* help = qobject_cast<Help*>(m_app->show(ScreenName::Help));
+        auto* help = qobject_cast<Help*>(s.app.show(ScreenName::Help));
         QVERIFY(help != nullptr);
         RichTextView* view = help->RichTextBox1;
         const QString reading = QStringLiteral("Line 64");
