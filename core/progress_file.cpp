@@ -99,9 +99,11 @@ SaveResult SaveReviewTest(SessionState& state, bool finished, DateValue today,
     return result;
 }
 
-SaveResult SaveExam(SessionState& state, bool finished, DateValue today, const ExamFiling& filing) {
+SaveResult SaveExam(SessionState& state, bool finished, DateValue today,
+                    const ExamFilingPlan& plan) {
     ExamRecord& record = state.Buffers.exam;
     FillExamRecord(state, DateText(today), record);
+    const ExamFiling filing = finished && plan ? plan(state.ExamScore) : ExamFiling{};
     const SaveResult result =
         SaveRecord(state, EncodeExam(record), state.SuspendedExamRecord, true, state.ExamKind + 9,
                    finished, today, filing.log, filing.countTake);

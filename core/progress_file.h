@@ -6,6 +6,7 @@
 #include "core/records.h"
 #include "core/session_state.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -57,12 +58,15 @@ struct ExamFiling {
     bool countTake = false;
 };
 
+// What a finished exam files beside its record, planned from the score it was just given.
+using ExamFilingPlan = std::function<ExamFiling(float score)>;
+
 // Writes the exam in progress (scoring it, see FillExamRecord); a finished exam clears
 // SuspendedExamRecord and ExamPosition. The record number written is returned, since an exam
-// under 30% is removed again. The filing goes in the same header write as the record, so that
-// a save that fails files none of it.
+// under 30% is removed again. A finished exam's filing goes in the same header write as the
+// record, so that a save that fails files none of it.
 SaveResult SaveExam(SessionState& state, bool finished, DateValue today,
-                    const ExamFiling& filing = {});
+                    const ExamFilingPlan& plan = {});
 
 // Writes a record as it stands as the suspended test or exam of its kind, as a break would;
 // start-up does so with the journal of a run that a crash broke off.

@@ -57,9 +57,7 @@ void ReportCard::buildLayout(std::vector<QLabel*> notes) {
     Command1.resize(static_cast<size_t>(m_design.commandCaptions.size()));
     auto* commands = new QVBoxLayout;
     for (int i : m_design.commandOrder) {
-        auto* button = new QPushButton(m_design.commandCaptions[i]);
-        NameControl(button, "Command1", i, QString(button->text()).remove(QLatin1Char('&')));
-        button->setAutoDefault(false);
+        auto* button = MakeCommand("Command1", i, m_design.commandCaptions[i]);
         connect(button, &QPushButton::clicked, this, [this, i] { Command1_Click(i); });
         commands->addWidget(button);
         Command1[static_cast<size_t>(i)] = button;

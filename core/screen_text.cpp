@@ -3,12 +3,8 @@
 
 namespace tessera {
 
-QString Text(std::string_view bytes) {
-    return fromWindows1252(bytes);
-}
-
 QString ShownUserName(const std::string& userName) {
-    QString name = Text(userName);
+    QString name = fromWindows1252(userName);
     while (name.endsWith(QLatin1Char(' ')) || name.endsWith(QChar()))
         name.chop(1);
     return name;

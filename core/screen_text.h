@@ -1,16 +1,12 @@
 #pragma once
-// The system's byte strings as the widgets show them: every text of the course and of the
-// progress file is Windows-1252.
+// The user's name as the screens show it. Every other byte string of the course and of the
+// progress file goes to a widget through fromWindows1252.
 
 #include <QString>
 
 #include <string>
-#include <string_view>
 
 namespace tessera {
-
-// A text of the system for a widget.
-QString Text(std::string_view bytes);
 
 // The user's name as shown: trailing blanks and NULs of the fixed-length field dropped.
 QString ShownUserName(const std::string& userName);

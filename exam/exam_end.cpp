@@ -43,16 +43,14 @@ ExamEndOutcome EndExam(SessionState& state, bool finished, int committedRows, Da
     // A finished exam's log entry and take go into the file with its record, in one write.
     const int counter = state.ExamKind + TopicCount;
     ExamEndPlan plan;
-    ExamFiling filing;
-    if (finished) {
-        FillExamRecord(state, DateText(today), state.Buffers.exam); // scores it
-        plan = PlanExamEnd(state.ExamScore, state.ExamType, state.TakeCounts[counter],
-                           state.PassingGrade);
+    const SaveResult save = SaveExam(state, finished, today, [&](float score) {
+        plan = PlanExamEnd(score, state.ExamType, state.TakeCounts[counter], state.PassingGrade);
+        ExamFiling filing;
         if (plan.log)
-            filing.log = LogEntry{counter, state.ExamScore};
+            filing.log = LogEntry{counter, score};
         filing.countTake = plan.countTake;
-    }
-    const SaveResult save = SaveExam(state, finished, today, filing);
+        return filing;
+    });
     outcome.saved = save.status != SaveStatus::FileFailed;
     if (save.status == SaveStatus::SuspendedBeyondHeader) {
         TellBeyondHeader(dialogs);
@@ -72,7 +70,7 @@ ExamEndOutcome EndExam(SessionState& state, bool finished, int committedRows, Da
                                    " (less than 30%) of the questions correctly. Therefore, this "
                                    "exam has not been recorded on your Exam Report Card."),
             QStringLiteral("Sorry!"), MessageIcon::Question, MessageButtons::Ok);
-    } else if (filing.countTake) {
+    } else if (plan.countTake) {
         ++state.TakeCounts[counter];
     }
     outcome.showResults = true;

@@ -1,9 +1,9 @@
 #include "exam/exam_set.h"
 
-#include "core/screen_text.h"
 #include "core/session_state.h"
 #include "platform/control_names.h"
 #include "platform/fixed_pitch_font.h"
+#include "platform/windows1252.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -24,7 +24,7 @@ QListWidget* MakeList(int rows, int step, const QString& name, int index) {
     NameControl(list, "List1", index, name);
     list->setFont(FixedPitchFont());
     for (int row = 0; row < rows; ++row) {
-        list->addItem(Text(BuilderRowText((row + 1) * step)));
+        list->addItem(fromWindows1252(BuilderRowText((row + 1) * step)));
     }
     list->setFixedWidth(list->fontMetrics().horizontalAdvance(QStringLiteral("00000000")) + 24);
     return list;
@@ -76,7 +76,7 @@ void ExamSet::buildControls() {
     auto* topics = new QGroupBox(QStringLiteral("Include Topics"));
     auto* topicsLayout = new QVBoxLayout(topics);
     for (int i = 0; i < TopicCount; ++i) {
-        Check2[i] = new QCheckBox(Text(TopicCaption(m_context.state, i + 1)));
+        Check2[i] = new QCheckBox(fromWindows1252(TopicCaption(m_context.state, i + 1)));
         NameControl(Check2[i], "Check2", i, Check2[i]->text().simplified());
         topicsLayout->addWidget(Check2[i]);
     }
@@ -161,7 +161,7 @@ void ExamSet::wireControls() {
 void ExamSet::showForm() {
     m_showing = true;
     for (int i = 0; i < 3; ++i) {
-        Option3[i]->setText(Text(m_form.examCaption(i)));
+        Option3[i]->setText(fromWindows1252(m_form.examCaption(i)));
         NameControl(Option3[i], "Option3", i, Option3[i]->text());
         Option3[i]->setEnabled(m_form.examEnabled(i));
     }
@@ -188,7 +188,7 @@ void ExamSet::showForm() {
         Check2[i]->setChecked(m_form.topicChecked(i));
         Check2[i]->setEnabled(m_form.topicsEnabled());
     }
-    Label2->setText(Text(m_form.poolText()));
+    Label2->setText(fromWindows1252(m_form.poolText()));
     Command1[0]->setEnabled(m_form.takeEnabled());
     m_showing = false;
 }

@@ -3,12 +3,12 @@
 #include "core/picture_window.h"
 #include "core/run_journal.h"
 #include "core/screen_colours.h"
-#include "core/screen_text.h"
 #include "core/session_state.h"
 #include "exam/exam_end.h"
 #include "platform/clock.h"
 #include "platform/fixed_pitch_font.h"
 #include "platform/rich_text_view.h"
+#include "platform/windows1252.h"
 
 #include <QCloseEvent>
 #include <QFrame>
@@ -135,19 +135,19 @@ void ExamTest::Timer2_Timer() {
 
 void ExamTest::showSession() {
     m_showing = true;
-    setWindowTitle(Text(m_session.windowCaption()));
+    setWindowTitle(fromWindows1252(m_session.windowCaption()));
     for (int i = 0; i < ExamCommandCount; ++i) {
         if (Command1[i] != nullptr) {
             Command1[i]->setEnabled(m_session.enabled(i));
         }
     }
-    Command1[PreviousCommand]->setText(Text(m_session.previousCaption()));
-    Command1[BreakCommand]->setText(Text(m_session.breakCaption()));
+    Command1[PreviousCommand]->setText(fromWindows1252(m_session.previousCaption()));
+    Command1[BreakCommand]->setText(fromWindows1252(m_session.breakCaption()));
     Command1[9]->setEnabled(m_context.screens.isAvailable(ScreenName::Help));
     Command1[11]->setEnabled(m_context.screens.isAvailable(ScreenName::Calculator));
     showLists();
-    Label1[0]->setText(Text(m_session.answerLabel()));
-    Label1[1]->setText(Text(m_session.timeLabel()));
+    Label1[0]->setText(fromWindows1252(m_session.answerLabel()));
+    Label1[1]->setText(fromWindows1252(m_session.timeLabel()));
     const QColor red = ReadableOn(ColourOf(0x0000FF), Label1[1]->palette().color(QPalette::Window));
     Label1[1]->setStyleSheet(m_session.timeLabelRed() ? QStringLiteral("color: %1;").arg(red.name())
                                                       : QString());
@@ -183,11 +183,11 @@ void ExamTest::showLists() {
         if (list->count() != rows.rows()) {
             list->clear();
             for (int r = 0; r < rows.rows(); ++r) {
-                list->addItem(Text(m_session.rowText(index, r)));
+                list->addItem(fromWindows1252(m_session.rowText(index, r)));
             }
         } else {
             for (int r = 0; r < rows.rows(); ++r) {
-                const QString text = Text(m_session.rowText(index, r));
+                const QString text = fromWindows1252(m_session.rowText(index, r));
                 if (list->item(r)->text() != text) {
                     list->item(r)->setText(text);
                 }
@@ -203,7 +203,7 @@ void ExamTest::showLists() {
         palette.setColor(QPalette::Text, Qt::black);
         list->setPalette(palette);
     }
-    Frame1->setTitle(Text(m_session.countsCaption()));
+    Frame1->setTitle(fromWindows1252(m_session.countsCaption()));
 }
 
 void ExamTest::showItemText() {

@@ -22,15 +22,6 @@
 
 namespace tessera {
 
-namespace {
-QPushButton* MakeCommand(int index, const QString& caption, const QString& name) {
-    auto* button = new QPushButton(caption);
-    NameControl(button, "Command1", index, name);
-    button->setAutoDefault(false);
-    return button;
-}
-} // namespace
-
 void ExamTest::buildControls() {
     RichTextBox1 = new RichTextView;
     RichTextBox1->setCopyOnly(true);
@@ -47,7 +38,8 @@ void ExamTest::buildControls() {
     auto* answers = new QHBoxLayout;
     const QString letters = QStringLiteral("ABCD");
     for (int i = 0; i < 4; ++i) {
-        Command1[i] = MakeCommand(i, letters.mid(i, 1), QStringLiteral("Answer ") + letters[i]);
+        Command1[i] =
+            MakeCommand("Command1", i, letters.mid(i, 1), QStringLiteral("Answer ") + letters[i]);
         Command1[i]->setFont(answerFont);
         Command1[i]->setMinimumSize(56, 40);
         answers->addWidget(Command1[i]);
@@ -55,14 +47,15 @@ void ExamTest::buildControls() {
     answers->addSpacing(16);
     answers->addWidget(Label1[0], 1);
 
-    Command1[PreviousCommand] =
-        MakeCommand(PreviousCommand, QStringLiteral("&Previous"), QStringLiteral("Previous"));
+    Command1[PreviousCommand] = MakeCommand(
+        "Command1", PreviousCommand, QStringLiteral("&Previous"), QStringLiteral("Previous"));
     Command1[NextCommand] =
-        MakeCommand(NextCommand, QStringLiteral("&Next"), QStringLiteral("Next"));
+        MakeCommand("Command1", NextCommand, QStringLiteral("&Next"), QStringLiteral("Next"));
     Command1[UnsureCommand] =
-        MakeCommand(UnsureCommand, QStringLiteral("&Unsure"), QStringLiteral("Unsure"));
-    Command1[PictureCommand] = MakeCommand(PictureCommand, QStringLiteral("&View Picture"),
-                                           QStringLiteral("View Picture"));
+        MakeCommand("Command1", UnsureCommand, QStringLiteral("&Unsure"), QStringLiteral("Unsure"));
+    Command1[PictureCommand] =
+        MakeCommand("Command1", PictureCommand, QStringLiteral("&View Picture"),
+                    QStringLiteral("View Picture"));
     auto* moves = new QHBoxLayout;
     moves->addWidget(Command1[PreviousCommand]);
     moves->addWidget(Command1[NextCommand]);
@@ -145,11 +138,12 @@ QWidget* ExamTest::buildSidePanel() {
     side->addWidget(ProgressBar1);
 
     Command1[BreakCommand] =
-        MakeCommand(BreakCommand, QStringLiteral("&Break"), QStringLiteral("Break"));
-    Command1[FinishedCommand] =
-        MakeCommand(FinishedCommand, QStringLiteral("&Finished"), QStringLiteral("Finished"));
-    Command1[9] = MakeCommand(9, QStringLiteral("&Help"), QStringLiteral("Help"));
-    Command1[11] = MakeCommand(11, QStringLiteral("C&alculator"), QStringLiteral("Calculator"));
+        MakeCommand("Command1", BreakCommand, QStringLiteral("&Break"), QStringLiteral("Break"));
+    Command1[FinishedCommand] = MakeCommand(
+        "Command1", FinishedCommand, QStringLiteral("&Finished"), QStringLiteral("Finished"));
+    Command1[9] = MakeCommand("Command1", 9, QStringLiteral("&Help"), QStringLiteral("Help"));
+    Command1[11] =
+        MakeCommand("Command1", 11, QStringLiteral("C&alculator"), QStringLiteral("Calculator"));
     Shape1 = new QFrame;
     Shape1->setObjectName(QStringLiteral("Shape1"));
     auto* shapeLayout = new QVBoxLayout(Shape1);

@@ -1,7 +1,6 @@
 #include "exam/results.h"
 
 #include "core/picture_window.h"
-#include "core/screen_text.h"
 #include "core/session_state.h"
 #include "exam/exam_format.h"
 #include "exam/exam_items.h"
@@ -12,6 +11,7 @@
 #include "platform/fixed_pitch_font.h"
 #include "platform/rich_text_view.h"
 #include "platform/text_frame.h"
+#include "platform/windows1252.h"
 
 #include <QCloseEvent>
 #include <QGroupBox>
@@ -31,7 +31,7 @@ Results::Results(ScreenContext& context) : m_context(context) {
     const ResultsTally tally = CountResults(s);
     m_summary = SummaryLines(tally, s.ExamItemCount, s.ExamElapsed);
     for (int i = 0; i < 6; ++i)
-        Label1[i]->setText(Text(m_summary[i]));
+        Label1[i]->setText(fromWindows1252(m_summary[i]));
     fillList();
     connect(List1, &QListWidget::currentRowChanged, this, [this](int row) {
         if (row >= 0) {
@@ -72,9 +72,7 @@ void Results::buildControls() {
                                               "&Done", "C&alculator", "&View Picture"};
     auto* buttons = new QHBoxLayout;
     for (int i = 0; i < 7; ++i) {
-        Command1[i] = new QPushButton(QString::fromLatin1(captions[i]));
-        NameControl(Command1[i], "Command1", i, Command1[i]->text().remove(QLatin1Char('&')));
-        Command1[i]->setAutoDefault(false);
+        Command1[i] = MakeCommand("Command1", i, QString::fromLatin1(captions[i]));
         connect(Command1[i], &QPushButton::clicked, this, [this, i] { Command1_Click(i); });
         buttons->addWidget(Command1[i]);
     }
@@ -99,8 +97,8 @@ void Results::fillList() {
     const SessionState& s = m_context.state;
     List1->clear();
     for (int p = 1; p <= s.ExamItemCount; ++p) {
-        List1->addItem(
-            Text(ResultRowText(p, s.ExamKey[p], s.ExamAnswers[p], s.ExamUnsure[p] != 0)));
+        List1->addItem(fromWindows1252(
+            ResultRowText(p, s.ExamKey[p], s.ExamAnswers[p], s.ExamUnsure[p] != 0)));
     }
 }
 
@@ -115,8 +113,8 @@ void Results::ShowResultItem(int position) {
         m_context.screens.unload(ScreenName::PictForm);
         Command1[6]->setEnabled(false);
     }
-    setWindowTitle(
-        Text(s.catalogue.ExamNames[s.ExamKind] + " Results, Item" + NumberText(position)));
+    setWindowTitle(fromWindows1252(s.catalogue.ExamNames[s.ExamKind] + " Results, Item" +
+                                   NumberText(position)));
 }
 
 void Results::showPicture(int position) {
@@ -167,8 +165,8 @@ void Results::Command1_Click(int index) {
         break;
     case 4: {
         const auto answer = m_context.services.dialogs.message(
-            Text(DoneQuestion(s.ExamScore, s.catalogue.CrLf)), QStringLiteral("Caution..."),
-            MessageIcon::None, MessageButtons::OkCancel);
+            fromWindows1252(DoneQuestion(s.ExamScore, s.catalogue.CrLf)),
+            QStringLiteral("Caution..."), MessageIcon::None, MessageButtons::OkCancel);
         if (answer == MessageAnswer::Ok) {
             s.ExamPosition = 0;
             screens.unload(ScreenName::Results);

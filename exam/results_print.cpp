@@ -3,6 +3,7 @@
 #include "core/session_state.h"
 #include "exam/exam_format.h"
 #include "platform/printer.h"
+#include "platform/windows1252.h"
 
 #include <algorithm>
 
@@ -12,10 +13,6 @@ namespace {
 
 constexpr int PrintFontSize = 10;
 constexpr int SummaryRoom = 3; // lines the summary needs below the table on the same page
-
-QString Text(const std::string& text) {
-    return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 std::string Blanks(int count) {
     return std::string(static_cast<std::size_t>(count), ' ');
@@ -44,17 +41,18 @@ std::string ItemFields(const ResultsPrint& exam, int k) {
 void PrintHeading(Printer& printer, const ResultsPrint& exam, int page) {
     printer.setFontBold(true);
     if (page == 0) {
-        printer.printLine(Text(exam.title + " Results" + exam.crLf + Blanks(5) + exam.userName), 6);
-        printer.printLine(Text(LongDateText(exam.now) + TimeOfDayText(exam.now)), 6);
+        printer.printLine(
+            fromWindows1252(exam.title + " Results" + exam.crLf + Blanks(5) + exam.userName), 6);
+        printer.printLine(fromWindows1252(LongDateText(exam.now) + TimeOfDayText(exam.now)), 6);
     } else {
-        printer.printLine(Text(exam.examName + "  (cont.)"), 6);
+        printer.printLine(fromWindows1252(exam.examName + "  (cont.)"), 6);
     }
     printer.printLine(QString());
     const std::string firstHead = Blanks(10) + "Correct" + Blanks(5) + "Your" + Blanks(5);
     const std::string secondHead =
         Blanks(2) + "Item" + Blanks(4) + "Answer" + Blanks(6) + "Answer" + Blanks(3);
-    printer.printLine(Text(firstHead + firstHead));
-    printer.printLine(Text(secondHead + secondHead));
+    printer.printLine(fromWindows1252(firstHead + firstHead));
+    printer.printLine(fromWindows1252(secondHead + secondHead));
     printer.setFontBold(false);
     printer.printLine(QString());
 }
@@ -73,7 +71,7 @@ void PrintCopy(Printer& printer, const ResultsPrint& exam) {
         const int right = k + rowsOnPage[static_cast<std::size_t>(page)];
         const bool hasRight = right <= count;
         notAnswered = notAnswered || !Answered(exam, k) || (hasRight && !Answered(exam, right));
-        printer.printLine(Text(PrintedRow(exam, k, hasRight ? right : 0)));
+        printer.printLine(fromWindows1252(PrintedRow(exam, k, hasRight ? right : 0)));
         if (++rows == PrintedRowsPerPage) {
             base += PrintedRowsPerPage;
             rows = 0;
@@ -95,7 +93,7 @@ void PrintCopy(Printer& printer, const ResultsPrint& exam) {
     printer.printLine(QStringLiteral("Scoring Summary"), 6);
     printer.setFontBold(false);
     for (const std::string& line : exam.summary)
-        printer.printLine(Text(line), 3);
+        printer.printLine(fromWindows1252(line), 3);
     printer.newPage();
 }
 
@@ -136,16 +134,14 @@ std::string PrintedRow(const ResultsPrint& exam, int k, int right) {
 }
 
 bool PrintResults(Printer& printer, const ResultsPrint& exam) {
-    const auto choice = printer.showPrintDialog(PrintDialogKind::Table);
-    if (!choice)
-        return false;
-    if (!exam.fontName.empty())
-        printer.setFontName(Text(exam.fontName));
-    printer.setFontSize(PrintFontSize);
-    for (int copy = 0; copy < choice->copies && printer.ok(); ++copy)
-        PrintCopy(printer, exam);
-    printer.endDoc();
-    return true;
+    return PrintTableJob(
+        printer,
+        [&] {
+            if (!exam.fontName.empty())
+                printer.setFontName(fromWindows1252(exam.fontName));
+            printer.setFontSize(PrintFontSize);
+        },
+        [&] { PrintCopy(printer, exam); });
 }
 
 } // namespace tessera

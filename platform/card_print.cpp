@@ -37,18 +37,17 @@ void PrintCopy(Printer& printer, const PrintedCard& card) {
 } // namespace
 
 bool PrintCard(Printer& printer, const PrintedCard& card) {
-    const auto choice = printer.showPrintDialog(PrintDialogKind::Table);
-    if (!choice)
-        return false;
-    // An empty name is the system's fixed-pitch font, so that the columns line up whatever
-    // font an earlier print left on the printer.
-    printer.setFontName(card.fontName);
-    printer.setFontSize(10);
-    printer.setFontBold(false);
-    for (int copy = 0; copy < choice->copies && printer.ok(); ++copy)
-        PrintCopy(printer, card);
-    printer.endDoc();
-    return printer.ok();
+    const bool asked = PrintTableJob(
+        printer,
+        [&] {
+            // An empty name is the system's fixed-pitch font, so that the columns line up
+            // whatever font an earlier print left on the printer.
+            printer.setFontName(card.fontName);
+            printer.setFontSize(10);
+            printer.setFontBold(false);
+        },
+        [&] { PrintCopy(printer, card); });
+    return asked && printer.ok();
 }
 
 } // namespace tessera

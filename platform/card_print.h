@@ -10,6 +10,11 @@ namespace tessera {
 
 class Printer;
 
+// A run of blanks, for lines laid out in columns of the fixed-pitch font.
+inline QString Blanks(int count) {
+    return QString(count, QLatin1Char(' '));
+}
+
 struct CardLine {
     QString text;
     int column = 1; // from 1, in the font's average characters

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QGroupBox>
 #include <QLabel>
+#include <QPushButton>
 
 namespace tessera {
 
@@ -36,6 +37,15 @@ void NameControl(QWidget* control, const char* array, int index, const QString& 
     const QString name = QString::fromLatin1(array);
     NameControl(control, index < 0 ? name : name + QLatin1Char('_') + QString::number(index),
                 accessibleName);
+}
+
+QPushButton* MakeCommand(const char* array, int index, const QString& caption,
+                         const QString& words) {
+    auto* button = new QPushButton(caption);
+    NameControl(button, array, index,
+                words.isEmpty() ? QString(caption).remove(QLatin1Char('&')) : words);
+    button->setAutoDefault(false);
+    return button;
 }
 
 } // namespace tessera

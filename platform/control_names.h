@@ -4,6 +4,7 @@
 
 #include <QString>
 
+class QPushButton;
 class QWidget;
 
 namespace tessera {
@@ -18,5 +19,10 @@ void NameControl(QWidget* control, const QString& objectName, const QString& acc
 
 // A member of a control array, List1(0) as "List1_0"; a negative index names a lone control.
 void NameControl(QWidget* control, const char* array, int index, const QString& accessibleName);
+
+// A command button of a control array, described by `words` (its caption without the "&" when
+// none are given). It is no default button: Enter presses whichever button has the focus.
+QPushButton* MakeCommand(const char* array, int index, const QString& caption,
+                         const QString& words = {});
 
 } // namespace tessera

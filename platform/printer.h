@@ -64,4 +64,18 @@ public:
     virtual bool ok() const = 0;
 };
 
+// A table as one print job: the dialog, then `setUp` (the font), then `printCopy` for each copy
+// asked for while the printer is well, then the end of the document. False on Cancel.
+template <class SetUp, class PrintCopy>
+bool PrintTableJob(Printer& printer, SetUp setUp, PrintCopy printCopy) {
+    const std::optional<PrintChoice> choice = printer.showPrintDialog(PrintDialogKind::Table);
+    if (!choice)
+        return false;
+    setUp();
+    for (int copy = 0; copy < choice->copies && printer.ok(); ++copy)
+        printCopy();
+    printer.endDoc();
+    return true;
+}
+
 } // namespace tessera

@@ -2,6 +2,7 @@
 
 #include "platform/control_names.h"
 #include "platform/rich_text_view.h"
+#include "platform/twips.h"
 
 #include <QStyle>
 #include <QVBoxLayout>
@@ -11,7 +12,6 @@
 namespace tessera {
 namespace {
 
-constexpr int TwipsPerPixel = 15;
 constexpr int NarrowestLine = 40; // pixels
 
 } // namespace

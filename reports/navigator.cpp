@@ -81,9 +81,7 @@ void Navigator::buildControls() {
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(Label1, 1);
     for (int i = 0; i < 3; ++i) {
-        Command1[i] = new QPushButton(QString::fromLatin1(captions[i]));
-        NameControl(Command1[i], "Command1", i, Command1[i]->text().remove(QLatin1Char('&')));
-        Command1[i]->setAutoDefault(false);
+        Command1[i] = MakeCommand("Command1", i, QString::fromLatin1(captions[i]));
         connect(Command1[i], &QPushButton::clicked, this, [this, i] { Command1_Click(i); });
         buttons->addWidget(Command1[i]);
     }

@@ -1,5 +1,7 @@
 #include "reports/navigator_chart.h"
 
+#include "platform/windows1252.h"
+
 #include <QPainter>
 #include <QPainterPath>
 
@@ -16,10 +18,6 @@ const QColor Faint(110, 110, 110);
 
 constexpr int PointRadius = 5;
 
-QString Text(const std::string& text) {
-    return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 } // namespace
 
 ProgressChart::ProgressChart(QWidget* parent) : QWidget(parent) {
@@ -29,7 +27,7 @@ ProgressChart::ProgressChart(QWidget* parent) : QWidget(parent) {
 
 void ProgressChart::setChart(ProgressChartData chart) {
     m_chart = std::move(chart);
-    setAccessibleDescription(Text(m_chart.description));
+    setAccessibleDescription(fromWindows1252(m_chart.description));
     update();
 }
 
@@ -67,9 +65,9 @@ void ProgressChart::paintEvent(QPaintEvent* /*event*/) {
     painter.setFont(bold);
     painter.setPen(Qt::black);
     const QRect titleBox(8, 6, width() - 16, plot.line);
-    painter.drawText(
-        titleBox, Qt::AlignLeft | Qt::AlignVCenter,
-        QFontMetrics(bold).elidedText(Text(m_chart.title), Qt::ElideRight, titleBox.width()));
+    painter.drawText(titleBox, Qt::AlignLeft | Qt::AlignVCenter,
+                     QFontMetrics(bold).elidedText(fromWindows1252(m_chart.title), Qt::ElideRight,
+                                                   titleBox.width()));
     painter.setFont(font());
 
     const int left = metrics.horizontalAdvance(QStringLiteral("100%")) + 14;
@@ -89,7 +87,7 @@ void ProgressChart::paintEvent(QPaintEvent* /*event*/) {
         drawTakes(painter, plot);
     }
     // The passing grade is named at the right end of its line, over the line of takes.
-    const QString passing = Text(m_chart.passingLabel);
+    const QString passing = fromWindows1252(m_chart.passingLabel);
     const double passingWidth = metrics.horizontalAdvance(passing) + 6;
     const double labelY = m_chart.passingShare > 0.9 ? passY + 2 : passY - plot.line - 2;
     const QRectF passingBox(plot.area.right() - passingWidth, labelY, passingWidth, plot.line);
@@ -142,9 +140,10 @@ void ProgressChart::drawTakes(QPainter& painter, const Plot& plot) const {
         painter.setPen(QPen(Qt::black, 1));
         painter.setBrush(point.passing ? Passing : Failing);
         painter.drawEllipse(at, PointRadius, PointRadius);
-        label(Text(point.score), at.x(), at.y() - PointRadius - plot.line - 2, scoreRoomFrom);
+        label(fromWindows1252(point.score), at.x(), at.y() - PointRadius - plot.line - 2,
+              scoreRoomFrom);
         painter.setPen(Faint);
-        label(Text(point.date), at.x(), plot.area.bottom() + 4, dateRoomFrom);
+        label(fromWindows1252(point.date), at.x(), plot.area.bottom() + 4, dateRoomFrom);
     }
 }
 

@@ -56,16 +56,14 @@ void PrintCopy(Printer& printer, const MonitorPrint& table) {
 } // namespace
 
 bool PrintMonitor(Printer& printer, const MonitorPrint& table) {
-    const auto choice = printer.showPrintDialog(PrintDialogKind::Table);
-    if (!choice)
-        return false;
-    printer.setFontName(QStringLiteral("Arial"));
-    printer.setFontSize(TableSize);
-    printer.setFontBold(true);
-    for (int copy = 0; copy < choice->copies && printer.ok(); ++copy)
-        PrintCopy(printer, table);
-    printer.endDoc();
-    return true;
+    return PrintTableJob(
+        printer,
+        [&] {
+            printer.setFontName(QStringLiteral("Arial"));
+            printer.setFontSize(TableSize);
+            printer.setFontBold(true);
+        },
+        [&] { PrintCopy(printer, table); });
 }
 
 } // namespace tessera

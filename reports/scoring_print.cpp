@@ -11,10 +11,6 @@ constexpr int CustomExamKind = 12;
 constexpr int TopicsColumn = 11;
 constexpr int TotalsColumn = 14;
 
-QString Blanks(int count) {
-    return QString(count, QLatin1Char(' '));
-}
-
 QString Rule() {
     return QString(89, QLatin1Char('-'));
 }

@@ -1,16 +1,13 @@
 #include "review/pict_form.h"
 
+#include "platform/twips.h"
+
 #include <QImageReader>
 #include <QLabel>
 #include <QPixmap>
 #include <QVBoxLayout>
 
 namespace tessera {
-namespace {
-
-constexpr int TwipsPerPixel = 15;
-
-} // namespace
 
 PictForm::PictForm(ScreenContext& /*context*/) : PictForm(nullptr) {}
 

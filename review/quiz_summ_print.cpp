@@ -8,10 +8,6 @@ namespace {
 
 constexpr int PageLines = 62; // a page holds the rows up to line 61
 
-QString Blanks(int count) {
-    return QString(count, QLatin1Char(' '));
-}
-
 } // namespace
 
 bool PrintReviewCard(Printer& printer, const ReviewCardPrint& card) {

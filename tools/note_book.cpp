@@ -6,6 +6,7 @@
 #include "platform/dialogs.h"
 #include "platform/print_rich_text.h"
 #include "platform/rich_text_view.h"
+#include "platform/twips.h"
 #include "tools/notebook_search.h"
 
 #include <QCheckBox>
@@ -22,7 +23,6 @@
 namespace tessera {
 namespace {
 
-constexpr int TwipsPerPixel = 15;
 constexpr const char* NoteBookNotSavedTitle = "Notebook Not Saved";
 constexpr const char* NoteBookNotSavedMessage =
     "Your notebook could not be written to TesseraNoteBook.RTF. Make sure the study folder can "
@@ -65,9 +65,7 @@ void NoteBook::buildControls() {
     const std::array<const char*, 4> captions = {"&Find", "&Print", "&Done", "&Help"};
     auto* commands = new QHBoxLayout;
     for (int i = 0; i < 4; ++i) {
-        Command1[i] = new QPushButton(QString::fromLatin1(captions[i]));
-        NameControl(Command1[i], "Command1", i, Command1[i]->text().remove(QLatin1Char('&')));
-        Command1[i]->setAutoDefault(false);
+        Command1[i] = MakeCommand("Command1", i, QString::fromLatin1(captions[i]));
         connect(Command1[i], &QPushButton::clicked, this, [this, i] { Command1_Click(i); });
         commands->addWidget(Command1[i]);
         if (i == 1)
@@ -93,9 +91,7 @@ QGroupBox* NoteBook::buildFindPanel() {
     row->addWidget(Check1);
     const std::array<const char*, 2> captions = {"&Find Next", "&Cancel"};
     for (int i = 0; i < 2; ++i) {
-        Command2[i] = new QPushButton(QString::fromLatin1(captions[i]));
-        NameControl(Command2[i], "Command2", i, Command2[i]->text().remove(QLatin1Char('&')));
-        Command2[i]->setAutoDefault(false);
+        Command2[i] = MakeCommand("Command2", i, QString::fromLatin1(captions[i]));
         row->addWidget(Command2[i]);
     }
     connect(Command2[0], &QPushButton::clicked, this, [this] { FindNext(); });

@@ -8,6 +8,7 @@
 #include "platform/print_rich_text.h"
 #include "platform/rich_text_view.h"
 #include "platform/text_frame.h"
+#include "platform/twips.h"
 #include "platform/windows1252.h"
 
 #include <QBoxLayout>
@@ -24,8 +25,6 @@
 
 namespace tessera {
 namespace {
-
-constexpr int TwipsPerPixel = 15;
 
 // Up to two accelerator marks go from a button's caption to make a window's title.
 QString WithoutAccelerators(QString caption) {

@@ -1,6 +1,7 @@
 #include "platform/control_names.h"
 #include "platform/rich_text_view.h"
 #include "platform/text_frame.h"
+#include "platform/twips.h"
 #include "tools/viewing.h"
 
 #include <QCheckBox>
@@ -15,12 +16,6 @@
 #include <QVBoxLayout>
 
 namespace tessera {
-namespace {
-
-constexpr int TwipsPerPixel = 15;
-
-} // namespace
-
 void Viewing::buildControls() {
     Label1 = new QLabel;
     NameControl(Label1, "Label1", -1, {});
@@ -48,9 +43,7 @@ void Viewing::buildControls() {
     const std::array<const char*, 7> captions = {"&Print",     "N&otebook", "&Done", "&Help",
                                                  "&Find Next", "&Cancel",   "&Find"};
     for (int i = 0; i < 7; ++i) {
-        Command1[i] = new QPushButton(QString::fromLatin1(captions[i]));
-        NameControl(Command1[i], "Command1", i, Command1[i]->text().remove(QLatin1Char('&')));
-        Command1[i]->setAutoDefault(false);
+        Command1[i] = MakeCommand("Command1", i, QString::fromLatin1(captions[i]));
         connect(Command1[i], &QPushButton::clicked, this, [this, i] { Command1_Click(i); });
     }
     auto* commands = new QHBoxLayout;
@@ -80,9 +73,8 @@ void Viewing::buildLetterButtons() {
     grid->setSpacing(2);
     for (int i = 0; i < LetterCount; ++i) {
         const QChar letter(QLatin1Char(static_cast<char>('A' + i)));
-        Command3[i] = new QPushButton(QString(letter));
-        NameControl(Command3[i], "Command3", i, QStringLiteral("Letter %1").arg(letter));
-        Command3[i]->setAutoDefault(false);
+        Command3[i] =
+            MakeCommand("Command3", i, QString(letter), QStringLiteral("Letter %1").arg(letter));
         Command3[i]->setEnabled(false);
         Command3[i]->setMinimumWidth(Command3[i]->fontMetrics().horizontalAdvance(letter) * 3);
         Command3[i]->installEventFilter(this);

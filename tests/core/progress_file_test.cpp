@@ -140,7 +140,7 @@ struct Operation {
 };
 
 const LogEntry Logged{3, .75F};
-const ExamFiling Filed{LogEntry{10, .8F}, true};
+const ExamFilingPlan Filed = [](float) { return ExamFiling{LogEntry{10, .8F}, true}; };
 const Operation Operations[] = {
     {"test broken off", [](S& s) { SaveReviewTest(s, false, Today); }},
     {"test finished, logged", [](S& s) { SaveReviewTest(s, true, Today, Logged); }},
