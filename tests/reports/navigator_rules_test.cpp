@@ -1,5 +1,5 @@
-// The monitor spreadsheet's rules: the log folded into rows and cell texts, the sizes of the
-// grid, and the chart of a row.
+// The monitor spreadsheet's rules: the log folded into rows and cell texts, and the chart of a
+// row.
 
 #include "core/session_state.h"
 #include "reports/navigator_chart_data.h"
@@ -84,15 +84,6 @@ TEST(MonitorTable, TheLogFoldsIntoTheRowsCells) {
             joined += "|" + cells[column];
         EXPECT_EQ(joined, c.cells) << c.name;
     }
-}
-
-TEST(MonitorTable, SizesFollowTheGrid) {
-    const MonitorGridSizes loaded = LoadedGridSizes(1000);
-    EXPECT_EQ(loaded.columnWidths, (std::array<int, 6>{430, 110, 110, 110, 110, 110}));
-    EXPECT_EQ(loaded.bodyHeight, 20);
-    const MonitorGridSizes resized = ResizedGridSizes(1000, 450);
-    EXPECT_EQ(resized.columnWidths, (std::array<int, 6>{430, 130, 100, 100, 100, 100}));
-    EXPECT_EQ(std::pair(resized.bodyHeight, resized.headHeight), std::pair(30, 60));
 }
 
 TEST(MonitorChart, TakesInOrderAgainstThePassingGrade) {

@@ -214,6 +214,7 @@ QString Joined(const std::vector<QString>& lines) {
     return QStringList(lines.begin(), lines.end()).join(u'\n');
 }
 
+// Whatever font an earlier print left, the card asks for its own or the fixed-pitch fallback.
 TEST(ScoringPrint, PagesBreakAfterLine61AndEachCopyHasItsOwnHeadsRowsAndTotals) {
     const QString rule(89, u'-');
     const QString opening =
@@ -223,66 +224,44 @@ TEST(ScoringPrint, PagesBreakAfterLine61AndEachCopyHasItsOwnHeadsRowsAndTotals) 
                 u"Exam Title     Taken   Correct   Asked   Answered  Answers   Order   "
                 "Time (min.)  (h:m:s)"_s,
                 rule});
-    const QString continued = u"\nScreening Exam Report Card (cont.)\n"_s;
     const QString plain =
         u"Exam I        12-20-2026  50.0%      2        2        0      Yes     195   1:30:30"_s;
     const QString custom =
         u"Custom        01-05-2027  50.0%      2        2        0      Yes     195   1:30:30\n"
         "          Topics Covered:  2, 7\n"_s;
-    const auto lines = [](const QString& line, int times) {
-        return QStringList(times, line).join(u'\n');
-    };
     const struct {
         int plainBefore;
-        bool withCustom;
-        int plainAfter;
         int copies;
-        QString first;  // the rows of the first page
-        QString second; // the second page up to the closing rule and totals
-    } cases[] = {
-        {54, false, 0, 1, lines(plain, 54), continued},
-        // 53 rows bring the page to line 60; the custom exam's three lines then pass line 61.
-        {53, true, 1, 1, lines(plain, 53) + u'\n' + custom, continued + u'\n' + plain},
-        {1, true, 1, 2, plain + u'\n' + custom + u'\n' + plain, {}},
-    };
+        const char* font;
+    } cases[] = {{53, 1, "Courier New"}, {1, 2, ""}};
     for (const auto& c : cases) {
         std::vector<ScoringRow> rows(static_cast<size_t>(c.plainBefore), PlainRow());
-        if (c.withCustom)
-            rows.push_back(CustomRow());
-        rows.insert(rows.end(), static_cast<size_t>(c.plainAfter), PlainRow());
+        rows.push_back(CustomRow());
+        rows.push_back(PlainRow());
         RecordingPrinter printer;
         printer.dialogAnswer = PrintChoice{c.copies, false};
-        PrintCard(printer, ScoringPaper(rows, "Courier New"));
+        printer.setFontName(u"Arial"_s);
+        printer.setFontSize(11);
+        printer.setFontBold(true);
+        PrintCard(printer, ScoringPaper(rows, c.font));
         const QString closing =
             rule + u'\n' + QString(13, u' ') + QString::fromStdString(ScoringTotalsText(rows));
-        const QString copy = opening + u'\n' + c.first + u'\n' + closing;
-        const QString pages = c.copies == 2
-                                  ? copy + u'\f' + copy
-                                  : opening + u'\n' + c.first + u'\f' + c.second + u'\n' + closing;
+        const QString first =
+            opening + u'\n' + QStringList(c.plainBefore, plain).join(u'\n') + u'\n' + custom;
+        // 53 rows bring the page to line 60; the custom exam's three lines then pass line 61.
+        const QString pages =
+            c.copies == 2
+                ? first + u'\n' + plain + u'\n' + closing + u'\f' + first + u'\n' + plain + u'\n' +
+                      closing
+                : first + u"\f\nScreening Exam Report Card (cont.)\n\n"_s + plain + u'\n' + closing;
         EXPECT_EQ(Joined(printer.pageText(1)) + u'\f' + Joined(printer.pageText(2)), pages);
         EXPECT_TRUE(printer.pageText(3).empty());
         EXPECT_EQ(printer.jobsEnded, 1);
         EXPECT_EQ(printer.dialogsShown, std::vector<PrintDialogKind>{PrintDialogKind::Table});
-    }
-}
-
-TEST(ScoringPrint, FontsAndCancel) {
-    // Whatever font an earlier print left, the card asks for its own or the fixed-pitch fallback.
-    for (const char* font : {"Courier New", ""}) {
-        RecordingPrinter printer;
-        printer.setFontName(u"Arial"_s);
-        printer.setFontSize(11);
-        printer.setFontBold(true);
-        PrintCard(printer, ScoringPaper({PlainRow()}, font));
         for (const PrintedLine& line : printer.lines)
             EXPECT_EQ(std::tuple(line.fontName, line.fontSize, line.bold),
-                      std::tuple(QString::fromLatin1(font), 10.0, false));
+                      std::tuple(QString::fromLatin1(c.font), 10.0, false));
     }
-    RecordingPrinter cancelled;
-    cancelled.dialogAnswer.reset();
-    EXPECT_FALSE(PrintCard(cancelled, ScoringPaper({PlainRow()}, "Courier New")));
-    EXPECT_TRUE(cancelled.lines.empty());
-    EXPECT_EQ(cancelled.jobsEnded, 0);
 }
 
 } // namespace
