@@ -1,6 +1,12 @@
-// The exam while it runs: lists, answering, the unsure mark, both approaches, keys, the clock.
+// The exam while it runs and when it ends: lists, answering, the unsure mark, both approaches,
+// keys, the clock; then the progress file: no record, break, finish, the rule of 30%, the take
+// counter, a failed save, and a resumed exam finished in a later run.
 
+#include "core/progress_file.h"
+#include "exam/exam_end.h"
 #include "exam/exam_session.h"
+#include "exam/results_summary.h"
+#include "tests/support/faulty_files.h"
 #include "tests/support/study_fixture.h"
 
 #include <gtest/gtest.h>
@@ -8,20 +14,69 @@
 namespace tessera {
 namespace {
 
-// An unscrambled exam I of ten minutes in a study folder of its own, opened when the test says.
+// An unscrambled exam I of ten minutes in a study folder and a progress file of its own; the
+// course's 80 items of exam I are keyed A B C D A ...
 struct Exam : StudyFixture {
     explicit Exam(int items = 5, int structured = 0) {
+        ProgressHeader header;
+        header.UserName = "Candidate" + std::string(21, ' ');
+        WriteProgressHeader(header);
+        NewState(state);
         state.ExamKind = state.ExamType = 1;
         state.ExamScrambled = false;
         state.ExamItemCount = static_cast<int16_t>(items);
         state.ExamMinutes = 10;
         state.ExamStructured = static_cast<int16_t>(structured);
     }
-    ExamSession& open() {
-        session.open();
-        return session;
+    static void NewState(SessionState& s) {
+        FillSmallCourse(s, SmallTopicCounts, {80, 10});
+        s.PassingGrade = 70;
     }
-    ExamSession session{state, clock, random};
+    // Opens a new exam, or the one broken off before.
+    ExamSession& open() {
+        session = std::make_unique<ExamSession>(state, clock, random);
+        session->open();
+        return *session;
+    }
+    // Commits `right` right answers and `wrong` wrong ones on the first remaining items.
+    void Answer(int right, int wrong) {
+        for (int k = 0; k < right + wrong; ++k) {
+            const int key = state.ExamKey[state.ExamPosition];
+            session->pressAnswer(k < right ? key - 1 : key % 4);
+            session->pressNext();
+        }
+    }
+    ExamEndOutcome Close(bool finishPressed) {
+        if (finishPressed) {
+            dialogs.answer(MessageAnswer::Ok);
+            session->pressFinished(dialogs);
+        }
+        session->beginClosing();
+        return EndExam(state, session->examFinished(), session->list(AnsweredList).rows(),
+                       clock.now(), dialogs, [this] { ++refreshed; });
+    }
+    // What the end said and what the progress file holds after it: the records, the exam records
+    // among them, the first two log codes, exam I's take counter, the suspended records, the
+    // refreshes and the boxes shown.
+    std::string Filed(const ExamEndOutcome& end) const {
+        const ProgressHeader h = ReadProgressHeader();
+        return std::string(end.saved ? "saved" : "") + (end.removed ? " removed" : "") +
+               (end.showResults ? " results" : "") +
+               QStringLiteral("|%1 records, %2 exam|log %3 %4|takes %5|suspended %6 %7|%8 %9")
+                   .arg(ProgressRecordCount())
+                   .arg(ReadExamRecords().size())
+                   .arg(h.LogCodes[1])
+                   .arg(h.LogCodes[2])
+                   .arg(h.TakeCounts[10])
+                   .arg(h.SuspendedExamRecord)
+                   .arg(h.SuspendedTestRecord)
+                   .arg(refreshed)
+                   .arg(dialogs.messages().size())
+                   .toStdString();
+    }
+
+    std::unique_ptr<ExamSession> session;
+    int refreshed = 0;
 };
 
 // Plays the steps: "A" to "D" answer, "n" next, "p" previous or confirm, "u" unsure, "b" a blink
@@ -112,7 +167,7 @@ TEST(ExamSession, StepsMoveItemsBetweenTheListsMarkThemUnsureAndEndTheExam) {
     for (const auto& c : cases) {
         Exam exam(c.items, c.structured);
         Play(exam.open(), c.steps);
-        EXPECT_EQ(Shown(exam.session), c.shown) << c.steps;
+        EXPECT_EQ(Shown(*exam.session), c.shown) << c.steps;
     }
 }
 
@@ -153,30 +208,16 @@ TEST(ExamSession, FinishedAsksWithTheRemainingCountAndCancelStopsTheClock) {
     EXPECT_EQ(exam.state.ExamPosition, 2);
 }
 
-TEST(ExamSession, ClockWarnsAtTwoMinutesAndExpiresAtTheLimit) {
-    EXPECT_EQ(ReadExamClock(195, 0, 0).label, "Time Remaining: 3:15:00");
-    const ExamClockReading two = ReadExamClock(10, 0, 8.0 / 1440);
-    EXPECT_EQ(two.label + (two.warning ? " warning" : ""), "Time Remaining: 0:02:00");
-    const ExamClockReading warn = ReadExamClock(10, 3.0 / 1440, 5.5 / 1440);
-    EXPECT_EQ(warn.label + std::to_string(warn.minutesLeft), "2-minute warning! 1:301");
-
-    Exam exam;
-    ExamSession& s = exam.open();
-    s.pressAnswer(3);
-    exam.clock.advanceSeconds(9 * 60);
-    s.tick();
-    EXPECT_TRUE(s.timeLabelRed());
-    EXPECT_EQ(s.timeLabel(), "2-minute warning! 1:00");
-    exam.clock.advanceSeconds(60.2);
-    s.tick();
-    EXPECT_EQ(s.timeLabel(), "Time has expired!");
-    EXPECT_TRUE(s.timeExpired() && s.itemRtf().empty());
-    EXPECT_EQ(Shown(s), "Item 1 of 5 [  D] - >1,2,3,4,5*- .......F. 0% @Finished frame finished");
-    EXPECT_TRUE(s.pressFinished(exam.dialogs)); // no question once time is up
-    EXPECT_TRUE(exam.dialogs.messages().empty());
-    exam.clock.advanceSeconds(300);
-    s.beginClosing();
-    EXPECT_DOUBLE_EQ(exam.state.ExamElapsed, 10 / 1440.0); // exactly the limit
+// The screen test runs the clock out on a shown exam; here the readings at the edges.
+TEST(ExamSession, ClockReadsHoursWarnsUnderTwoMinutes) {
+    std::string read;
+    for (const auto& [minutes, elapsed, since] :
+         {std::tuple{195, 0.0, 0.0}, {10, 0.0, 8.0 / 1440}, {10, 3.0 / 1440, 5.5 / 1440}}) {
+        const ExamClockReading r = ReadExamClock(minutes, elapsed, since);
+        read += r.label + (r.warning ? " warning " : " ") + std::to_string(r.minutesLeft) + "|";
+    }
+    EXPECT_EQ(read, "Time Remaining: 3:15:00 195|Time Remaining: 0:02:00 2|2-minute warning! 1:30 "
+                    "warning 1|");
 }
 
 TEST(ExamSession, ResumeListsCommittedAnswersAndShowsTheFirstRemaining) {
@@ -190,11 +231,111 @@ TEST(ExamSession, ResumeListsCommittedAnswersAndShowsTheFirstRemaining) {
     state.ExamUnsure[4] = 63;
     ExamSession& s = exam.open();
     s.tick();
-    EXPECT_EQ(Shown(s), "Item 1 of 5 [  ] 2B,4C? >1,3,5* ABCDN.BFU 40%");
-    EXPECT_EQ(s.countsCaption(), " 2 Answered           3 Remaining");
-    EXPECT_EQ(state.ExamKey[4], 4); // key letters run A B C D by ordinal
-    EXPECT_EQ(state.ExamAnswered[4], -1);
-    EXPECT_EQ(s.timeLabel(), "Time Remaining: 0:08:00");
+    EXPECT_EQ(Shown(s) + "|" + s.countsCaption() + "|" + s.timeLabel(),
+              "Item 1 of 5 [  ] 2B,4C? >1,3,5* ABCDN.BFU 40%| 2 Answered           3 "
+              "Remaining|Time Remaining: 0:08:00");
+    // Key letters run A B C D by ordinal.
+    EXPECT_EQ(state.ExamKey[4] * 10 + state.ExamAnswered[4], 40 - 1);
+}
+
+TEST(ExamEnd, NothingCommittedLeavesNoRecordAndNoResults) {
+    Exam e;
+    e.open().pressAnswer(0); // answered, never committed
+    EXPECT_EQ(e.Filed(e.Close(true)), "|1 records, 0 exam|log 0 0|takes 0|suspended 0 0|0 1");
+    EXPECT_EQ(e.state.ExamPosition, 0);
+}
+
+// The log entry and the take go with the record: a save that fails files none of them, and the
+// exam finished again files each once. An answer not committed with Next counts as unanswered
+// and is gone after the save.
+TEST(ExamEnd, AFailedSaveFilesNeitherLogNorTakeUntilTheExamIsFinishedAgain) {
+    Exam e(10);
+    e.open();
+    e.Answer(8, 0);
+    e.session->pressAnswer(e.state.ExamKey[e.state.ExamPosition] - 1);
+    ExamEndOutcome end;
+    {
+        FaultyFiles full(FaultyFiles::Fault::DiskFull, 1);
+        end = e.Close(true);
+    }
+    EXPECT_TRUE(e.dialogs.messages()[0].text.startsWith(QStringLiteral("You failed to answer 2 ")));
+    EXPECT_EQ(e.Filed(end) + std::to_string(e.state.TakeCounts[10]),
+              "|1 records, 0 exam|log 0 0|takes 0|suspended 0 0|1 10");
+    end = EndExam(e.state, true, 8, e.clock.now(), e.dialogs, {});
+    EXPECT_EQ(e.Filed(end) + std::to_string(e.state.TakeCounts[10]),
+              "saved results|2 records, 1 exam|log 10 0|takes 1|suspended 0 0|1 11");
+    EXPECT_FLOAT_EQ(ReadProgressHeader().LogScores[1], 0.8f);
+    EXPECT_FLOAT_EQ(e.state.ExamScore, 0.8f);
+    EXPECT_EQ(e.state.ExamAnswers[9], 0);
+}
+
+TEST(ExamEnd, BelowThirtyPercentIsRemovedButLoggedAndAReviewTestSurvives) {
+    Exam e(67);
+    e.open();
+    e.Answer(5, 0);
+    EXPECT_EQ(e.Filed(e.Close(false)), "saved|2 records, 1 exam|log 0 0|takes 0|suspended 2 0|1 0");
+    // A review test is broken off behind it, at record 3.
+    e.state.CurrentTopic = 2;
+    e.state.TestType = 1;
+    e.state.TestItemCount = 3;
+    e.state.TestPosition = 2;
+    ASSERT_EQ(SaveReviewTest(e.state, false, e.clock.now()).recordNumber, 3);
+
+    e.open();
+    e.Answer(15, 0); // 20 of 67 right: 29.85%
+    EXPECT_EQ(e.Filed(e.Close(true)),
+              "saved removed results|2 records, 0 exam|log 10 0|takes 0|suspended 0 2|2 2");
+    EXPECT_EQ(e.state.SuspendedTestRecord, 2);
+    const ShownMessage& sorry = e.dialogs.messages()[1];
+    EXPECT_EQ(sorry.title + sorry.text,
+              QStringLiteral("Sorry!You answered 29.9% (less than 30%) of the questions correctly. "
+                             "Therefore, this exam has not been recorded on your Exam Report "
+                             "Card."));
+    EXPECT_EQ(sorry.icon, MessageIcon::Question);
+}
+
+TEST(ExamEnd, BreakingOffTwiceLeavesOneRecordAndResumesInANewRun) {
+    Exam e(6);
+    e.open();
+    e.Answer(2, 0);
+    e.Close(false);
+    e.open();
+    e.Answer(1, 1);
+    e.clock.advanceSeconds(90);
+    EXPECT_EQ(e.Filed(e.Close(false)), "saved|2 records, 1 exam|log 0 0|takes 0|suspended 2 0|2 0");
+
+    SessionState next; // a later run of the program
+    Exam::NewState(next);
+    RestoreSuspended(next);
+    ExamSession resumed(next, e.clock, e.random);
+    resumed.open();
+    EXPECT_EQ(resumed.list(AnsweredList).rows() * 10 + next.ExamPosition, 45);
+    e.dialogs.answer(MessageAnswer::Ok);
+    ASSERT_TRUE(resumed.pressFinished(e.dialogs));
+    resumed.beginClosing();
+    const ExamEndOutcome end = EndExam(next, true, 4, e.clock.now(), e.dialogs, {});
+    EXPECT_EQ(e.Filed(end), "saved results|2 records, 1 exam|log 10 0|takes 0|suspended 0 0|2 1");
+    EXPECT_FLOAT_EQ(next.ExamScore, 3.0f / 6.0f); // the earlier answers graded against ExamKey
+    EXPECT_EQ(CountResults(next).missed, 3);
+    EXPECT_NEAR(next.ExamElapsed * 1440.0, 1.5, 1e-4);
+}
+
+TEST(EndRule, KeepsFromThirtyPercentAndCountsAtTheLowerOfSeventyAndThePassingGrade) {
+    const struct {
+        float score;
+        int grade, type, before;
+        const char* plan; // counted, removed, logged
+    } cases[] = {{0.70f, 90, 1, 0, "c l"},       {0.69f, 90, 1, 0, "  l"}, {0.60f, 60, 3, 1, "c l"},
+                 {0.59f, 60, 3, 1, "  l"},       {0.90f, 70, 4, 2, "c l"}, {0.90f, 70, 5, 0, "   "},
+                 {0.90f, 70, 1, 3, "  l"},       {0.20f, 0, 1, 0, " rl"},  {0.3f, 70, 1, 0, "  l"},
+                 {20.0f / 67.0f, 0, 2, 0, " rl"}};
+    for (const auto& c : cases) {
+        const ExamEndPlan plan = PlanExamEnd(c.score, c.type, c.before, c.grade);
+        EXPECT_EQ(std::string(plan.countTake ? "c" : " ") + (plan.remove ? "r" : " ") +
+                      (plan.log ? "l" : " "),
+                  c.plan)
+            << c.score << " " << c.type;
+    }
 }
 
 } // namespace
