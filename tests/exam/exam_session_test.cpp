@@ -202,7 +202,7 @@ TEST(ExamSession, FinishedAsksWithTheRemainingCountAndCancelStopsTheClock) {
     EXPECT_TRUE(s.pressFinished(exam.dialogs));
     EXPECT_TRUE(s.examFinished());
     s.beginClosing();
-    // The first question's half minute is not counted; after OK the clock ran on.
+    // The half minute under the box answered Cancel is not counted; under OK's the clock ran on.
     EXPECT_NEAR(exam.state.ExamElapsed * 86400.0, 90.0, 1e-3);
     s.selectRow(RemainingList, 0); // list clicks do nothing while closing
     EXPECT_EQ(exam.state.ExamPosition, 2);

@@ -1,7 +1,6 @@
 // A new exam: the builder's values (captions by take counter, the pool and its guards, custom
-// values kept), then the draw (the pool, the whole-range shuffle, the head of the pool, GapSort).
+// values kept), then the draw (the pool, the whole-range shuffle, the head of the pool, the order).
 
-#include "core/gap_sort.h"
 #include "exam/draw_exam.h"
 #include "exam/exam_set_form.h"
 #include "tests/support/study_fixture.h"
@@ -91,22 +90,6 @@ TEST(ExamSetForm, PoolGuardsCustomValuesKeptWhileAnAuthorExamIsSelectedAndTake) 
     EXPECT_EQ(std::tuple(s.ExamKind, s.ExamType, s.ExamMinutes, s.ExamItemCount, s.ExamTopics[5],
                          s.ExamTopics[6], s.ExamStructured, s.ExamScrambled),
               std::tuple(3, 3, 5, 12, false, true, 1, false));
-}
-
-TEST(GapSort, SortsRowsOneToNAndMovesParallelTables) {
-    for (int n : {0, 1, 2, 7, 64, 300}) {
-        std::vector<int> keys(n + 1), twin(n + 1);
-        for (int i = 1; i <= n; ++i)
-            twin[i] = -(keys[i] = (i * 7919) % 1009); // distinct, scattered
-        const auto exchange = [&](int i, int j) {
-            std::swap(keys[i], keys[j]);
-            std::swap(twin[i], twin[j]);
-        };
-        GapSort(
-            n, [&](int i, int j) { return keys[i] > keys[j]; }, exchange);
-        EXPECT_TRUE(keys[0] == 0 && std::is_sorted(keys.begin() + 1, keys.end())) << n;
-        EXPECT_TRUE(std::ranges::equal(twin, keys, [](int t, int k) { return t == -k; }));
-    }
 }
 
 std::vector<int> Draw(StudyFixture& f, int kind, bool scrambled, int count,

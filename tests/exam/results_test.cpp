@@ -74,22 +74,21 @@ std::string Layout(const RecordingPrinter& printer) {
     static const QRegularExpression row(QStringLiteral("^  ( {0,3}\\d+) {7}.{11}.. {7}( *\\d+)?"));
     std::string pages;
     for (int p = 1; !printer.pageText(p).empty(); ++p) {
-        std::vector<std::string> rows;
-        std::string marks;
+        int rows = 0;
+        std::string first, last, marks;
         for (const QString& line : printer.pageText(p)) {
-            const auto match = row.match(line);
-            if (match.hasMatch())
-                rows.push_back(std::to_string(match.captured(1).toInt()) + "/" +
-                               std::to_string(match.captured(2).toInt()));
-            if (line == QStringLiteral("     Screening Exam II  (cont.)"))
-                marks += " cont";
-            if (line.startsWith(QStringLiteral("Note: ")))
-                marks += " note";
-            if (line == QStringLiteral("     Scoring Summary"))
-                marks += " summary";
+            if (const auto match = row.match(line); match.hasMatch()) {
+                last = std::to_string(match.captured(1).toInt()) + "/" +
+                       std::to_string(match.captured(2).toInt());
+                first = rows++ == 0 ? last : first;
+            }
+            marks += line == QStringLiteral("     Screening Exam II  (cont.)") ? " cont"
+                     : line.startsWith(QStringLiteral("Note: "))               ? " note"
+                     : line == QStringLiteral("     Scoring Summary")          ? " summary"
+                                                                               : "";
         }
-        pages += (p > 1 ? " | " : "") + std::to_string(rows.size()) +
-                 (rows.empty() ? "" : " " + rows.front() + ".." + rows.back()) + marks;
+        pages += (p > 1 ? " | " : "") + std::to_string(rows) +
+                 (rows == 0 ? "" : " " + first + ".." + last) + marks;
     }
     return pages;
 }
