@@ -171,6 +171,17 @@ TEST(Rtf, ReadsTheTextAsTheCandidateSeesItAndWritesItBack) {
         {"cut short", "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\\f0\\b Notes: ca",
          QStringLiteral("Notes: ca")},
         {"not RTF at all", "plain text\r\nsecond line", QStringLiteral("plain text\nsecond line")},
+        // An unknown code page, escapes in the font table, bad hex digits, symbols under \\uc and
+        // in
+        // skipped groups, a control character.
+        {"odd corners",
+         "{\\rtf1\\ansicpg4242{\\fonttbl{\\f0 Caf\\'E9\\{\\u233?;}\\par}\\f0 a\\'zz\\:b\\uc1"
+         "\\u8212\\{c\\u8211\\emdash d\\tqc\\tx720 {\\*\\x \\{}e\x01}",
+         QStringLiteral("azzb\u2014c\u2013de")},
+        {"list level beyond the list",
+         "{\\rtf1{\\*\\listtable{\\list{\\listlevel\\levelnfc0{\\leveltext\\'02\\'00.;}}\\listid7}}"
+         "\\pard\\ls7\\ilvl5 deep}",
+         QStringLiteral("deep")},
     };
     for (const auto& c : cases) {
         QTextDocument original, loaded;
