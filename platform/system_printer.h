@@ -12,7 +12,7 @@
 
 namespace tessera {
 
-class SystemPrinter final : public Printer {
+class SystemPrinter : public Printer {
 public:
     SystemPrinter();
     ~SystemPrinter() override;

@@ -26,12 +26,9 @@ void GalleryScene::loadDefaultCourse() {
     CutContent(std::string_view(file.data(), file.size() - 1), state.catalogue, state.content);
 }
 
-namespace {
-
-// An All Items test of the topic in running order, open at the given position.
-Quiz800* OpenItem(GalleryScene& scene, int topic, int position) {
-    scene.loadDefaultCourse();
-    SessionState& s = scene.state;
+void GalleryScene::setUpReviewTest(int topic, int position) {
+    loadDefaultCourse();
+    SessionState& s = state;
     s.PassingGrade = 70;
     s.IncludeProgressReport = true;
     s.CurrentTopic = static_cast<int16_t>(topic);
@@ -43,6 +40,12 @@ Quiz800* OpenItem(GalleryScene& scene, int topic, int position) {
     s.TestFurthest = static_cast<int16_t>(position - 1);
     for (int i = 1; i <= 3; ++i)
         s.WishesLeft[i] = static_cast<int16_t>(s.TestItemCount / 40 + 1);
+}
+
+namespace {
+
+Quiz800* OpenItem(GalleryScene& scene, int topic, int position) {
+    scene.setUpReviewTest(topic, position);
     return new Quiz800(scene.context);
 }
 

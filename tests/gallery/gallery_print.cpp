@@ -14,26 +14,11 @@ namespace tessera {
 namespace {
 
 // The real printer with its dialog answered: one copy, into the PDF file already set.
-class PdfPrinter final : public Printer {
+class PdfPrinter final : public SystemPrinter {
 public:
-    explicit PdfPrinter(const QString& file) { m_printer.setPdfOutput(file); }
+    explicit PdfPrinter(const QString& file) { setPdfOutput(file); }
 
     std::optional<PrintChoice> showPrintDialog(PrintDialogKind) override { return PrintChoice{}; }
-    std::optional<QStringList> fontNames() override { return m_printer.fontNames(); }
-    void setFontName(const QString& name) override { m_printer.setFontName(name); }
-    void setFontSize(double points) override { m_printer.setFontSize(points); }
-    void setFontBold(bool bold) override { m_printer.setFontBold(bold); }
-    void printLine(const QString& text, int column) override { m_printer.printLine(text, column); }
-    void printColumns(const QList<ColumnText>& texts) override { m_printer.printColumns(texts); }
-    void newPage() override { m_printer.newPage(); }
-    void printDocument(const QTextDocument& document) override {
-        m_printer.printDocument(document);
-    }
-    void endDoc() override { m_printer.endDoc(); }
-    bool ok() const override { return m_printer.ok(); }
-
-private:
-    SystemPrinter m_printer;
 };
 
 } // namespace
