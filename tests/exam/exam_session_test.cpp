@@ -220,24 +220,6 @@ TEST(ExamSession, ClockReadsHoursWarnsUnderTwoMinutes) {
                     "warning 1|");
 }
 
-TEST(ExamSession, ResumeListsCommittedAnswersAndShowsTheFirstRemaining) {
-    Exam exam;
-    SessionState& state = exam.state;
-    state.ExamPosition = 4;
-    state.ExamElapsed = 2.0 / 1440;
-    state.ExamItems = {0, 1, 2, 3, 4, 5};
-    state.ExamAnswers[2] = 2;
-    state.ExamAnswers[4] = 3;
-    state.ExamUnsure[4] = 63;
-    ExamSession& s = exam.open();
-    s.tick();
-    EXPECT_EQ(Shown(s) + "|" + s.countsCaption() + "|" + s.timeLabel(),
-              "Item 1 of 5 [  ] 2B,4C? >1,3,5* ABCDN.BFU 40%| 2 Answered           3 "
-              "Remaining|Time Remaining: 0:08:00");
-    // Key letters run A B C D by ordinal.
-    EXPECT_EQ(state.ExamKey[4] * 10 + state.ExamAnswered[4], 40 - 1);
-}
-
 TEST(ExamEnd, NothingCommittedLeavesNoRecordAndNoResults) {
     Exam e;
     e.open().pressAnswer(0); // answered, never committed
