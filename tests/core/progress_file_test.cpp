@@ -40,17 +40,12 @@ std::vector<std::string> RecordsOf(const std::string& file) {
 ReviewTestRecord TestOfTopic(int topic, int position = 0) {
     ReviewTestRecord r;
     std::tie(r.Topic, r.Position, r.ItemCount, r.TestType) = std::tuple(topic, position, 4, 1);
-    for (int p = 1; p <= 4; ++p)
-        r.Items[p] = static_cast<int16_t>(topic * 10 + p);
     return r;
 }
 
 ExamRecord ExamOfKind(int kind, int position = 0) {
     ExamRecord e;
-    std::tie(e.Kind, e.Position, e.ItemCount, e.ExamType, e.TimeLimit) =
-        std::tuple(kind + 9, position, 3, kind, 30);
-    for (int p = 1; p <= 3; ++p)
-        std::tie(e.Items[p], e.AnswerCodes[p]) = std::tuple(kind * 100 + p, 1);
+    std::tie(e.Kind, e.Position, e.ItemCount, e.ExamType) = std::tuple(kind + 9, position, 3, kind);
     return e;
 }
 
@@ -90,17 +85,7 @@ SessionState Restarted() {
     return state;
 }
 
-int status(SaveStatus saved) {
-    return static_cast<int>(saved);
-}
-
 using S = SessionState;
-
-struct Step {
-    const char* what;
-    std::function<int(S&)> run; // the record written, or the status
-    std::string after;          // the result, then the file's sketch
-};
 
 // A session with a review test and an exam running, each at its first item.
 class ProgressFileTest : public ::testing::Test {
@@ -148,16 +133,15 @@ const Operation Operations[] = {
     {"a log entry", [](S&) { AppendProgressLog(11, 0.5F, Today); }},
     {"preferences", [](S& s) { s.PassingGrade = 75, SavePreferences(s); }},
     {"the review card", [](S& s) { RewriteProgressFile(s, std::vector{TestOfTopic(2)}, Today); }},
-    {"the exam card", [](S& s) { RewriteProgressFile(s, std::vector{ExamOfKind(2)}, Today); }},
     {"a record taken out", [](S& s) { RemoveProgressRecord(s, 6, Today); }},
     {"a journal", [](S& s) { JournalReviewTest(s, Today); }, JournalFile},
     {"a journal replayed", [](S& s) { JournalReviewTest(s, Today), ReplayJournal(s, Today); }},
 };
 
 struct Outcome {
-    std::string before;   // the operation's own file before it ran
-    std::string progress; // after start-up recovered the progress file
-    std::string after;    // the operation's own file then
+    std::string before{};   // the operation's own file before it ran
+    std::string progress{}; // after start-up recovered the progress file
+    std::string after{};    // the operation's own file then
     int steps = 0;
     int writes = 0;
 };
@@ -167,10 +151,8 @@ Outcome RunWith(const Operation& operation, Fault fault, int at) {
     StudyFolder folder;
     folder.write(ProgressFile, Starting);
     SessionState state = Restarted();
-    state.TestPosition = 3;
-    state.ExamPosition = 2;
-    Outcome outcome;
-    outcome.before = folder.read(operation.file);
+    std::tie(state.TestPosition, state.ExamPosition) = std::tuple(3, 2);
+    Outcome outcome{.before = folder.read(operation.file)};
     {
         FaultyFiles files(fault, at);
         operation.run(state);
@@ -206,12 +188,14 @@ TEST_F(ProgressFileTest, RecordsGoWhereTheSuspendedNumbersSay) {
         };
     };
     const auto kept = [](auto records) {
-        return [=](S& s) { return status(RewriteProgressFile(s, records, Today)); };
+        return [=](S& s) { return static_cast<int>(RewriteProgressFile(s, records, Today)); };
     };
     const auto removed = [](int record) {
-        return [=](S& s) { return status(RemoveProgressRecord(s, record, Today)); };
+        return [=](S& s) { return static_cast<int>(RemoveProgressRecord(s, record, Today)); };
     };
-    const Step steps[] = {
+    // What is done, doing it (giving the record written or the status), and the result with
+    // the file's sketch after it.
+    const std::tuple<const char*, std::function<int(S&)>, const char*> steps[] = {
         {"a number at an exam: the test is new", save(false, 1), "4: 4/0 e1@0 t2@0 t3@1"},
         {"broken off again: the same record", save(false, 2), "4: 4/0 e1@0 t2@0 t3@2"},
         {"finished in place", save(true, 2), "4: 0/0 e1@0 t2@0 t3@2"},
@@ -226,13 +210,13 @@ TEST_F(ProgressFileTest, RecordsGoWhereTheSuspendedNumbersSay) {
          "0: 0/7 t4@0 t7@0 t1@0 e3@0 e4@0 e2@1"},
         {"a test taken out", removed(3), "0: 0/6 t4@0 t1@0 e3@0 e4@0 e2@1"},
     };
-    for (const Step& step : steps) {
-        const int result = step.run(state);
+    for (const auto& [what, run, after] : steps) {
+        const int result = run(state);
         const std::string sketch = Sketch(folder.read(ProgressFile));
-        EXPECT_EQ(std::to_string(result) + ": " + sketch, step.after) << step.what;
+        EXPECT_EQ(std::to_string(result) + ": " + sketch, after) << what;
         EXPECT_TRUE(sketch.starts_with(std::to_string(state.SuspendedTestRecord) + '/' +
                                        std::to_string(state.SuspendedExamRecord) + ' '))
-            << step.what << ": the session's numbers are the header's";
+            << what << ": the session's numbers are the header's";
     }
     const std::string file = folder.read(ProgressFile);
     EXPECT_EQ(RecordsOf(file).back().substr(1, 10), "11-19-2026");
@@ -379,16 +363,15 @@ TEST(CrashPoints, EveryOperationSurvivesEveryCrashPoint) {
                                            {Fault::DiskFull, clean.writes}})
             for (int at = 1; at <= count; ++at, ++tried) {
                 const Outcome struck = RunWith(operation, fault, at);
-                const std::string where = std::string(operation.name) + ", fault " +
-                                          std::to_string(static_cast<int>(fault)) + " at " +
-                                          std::to_string(at);
+                SCOPED_TRACE(testing::Message() << operation.name << ", fault "
+                                                << static_cast<int>(fault) << " at " << at);
                 EXPECT_TRUE(struck.after == clean.before || struck.after == clean.after)
-                    << where << ": neither old nor new";
+                    << "neither old nor new";
                 // Finished records the operation keeps survive whatever strikes.
                 for (const int n : {1, 2, 3, 5})
                     EXPECT_TRUE(!Holds(clean.progress, RecordsOf(Starting)[n]) ||
                                 Holds(struck.progress, RecordsOf(Starting)[n]))
-                        << where << ": a finished record lost";
+                        << "a finished record lost";
             }
     }
     std::printf("%zu operations, %d faults tried\n", std::size(Operations), tried);

@@ -3,16 +3,13 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <random>
 #include <tuple>
 
 using namespace tessera;
 
 namespace {
 
-// The bytes that are not zero, run by run: its offset, then its bytes in hex with stretches of
-// text quoted.
+// Each run of bytes that are not zero as offset:hex, with stretches of text quoted.
 std::string Layout(const RecordBytes& bytes) {
     const auto isText = [](uint8_t c) { return c >= ' ' && c < 0x7F; };
     std::string layout;
@@ -38,17 +35,6 @@ std::string Layout(const RecordBytes& bytes) {
 using Ints = std::vector<int>;
 
 } // namespace
-
-TEST(Records, EveryByteSurvivesDecodeAndEncode) {
-    std::mt19937 random(1);
-    for (int round = 0; round < 20; ++round) {
-        RecordBytes bytes;
-        std::generate(bytes.begin(), bytes.end(), [&] { return static_cast<uint8_t>(random()); });
-        EXPECT_EQ(EncodeHeader(DecodeHeader(bytes)), bytes);
-        EXPECT_EQ(EncodeReviewTest(DecodeReviewTest(bytes)), bytes);
-        EXPECT_EQ(EncodeExam(DecodeExam(bytes)), bytes);
-    }
-}
 
 TEST(Records, FieldsStandAtTheirOffsets) {
     ProgressHeader h;

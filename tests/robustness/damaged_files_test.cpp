@@ -32,9 +32,8 @@ struct Case {
     std::string seen;                   // as Seen renders it
 };
 
-// A progress file of an earlier run: a header with a name and the suspended record numbers,
-// then a review test of topic 4 and an exam of the given kind whose answer codes all stand
-// outside the table, each with its count, position and first items as given.
+// An earlier run's progress file: a header naming the suspended records, then a test of topic 4
+// and an exam of the kind with no answer code in the table, each with the count and items given.
 struct Run {
     int16_t count, position;
     std::vector<int16_t> items = {};
@@ -63,7 +62,8 @@ std::string EarlierRun(int test = 0, int exam = 0, std::optional<Run> t = {},
 }
 
 // What the candidate is left with, in one line: the course as start-up cut it, or the session
-// as it restored it; then the first line of every message, and whether the name was asked for.
+// as it restored it (grade, suspended records, test, exam, its first answer and unsure mark,
+// records listed); then the first line of every message, and whether the name was asked for.
 std::string Seen(bool content, TestServices& doubles) {
     std::ostringstream out;
     SessionState s;
@@ -80,17 +80,16 @@ std::string Seen(bool content, TestServices& doubles) {
     if (content) {
         const CourseContent& c = s.content;
         out << "; cut " << filled(c.ReviewItems) << ' ' << filled(c.ExamItemTexts) << ' '
-            << filled(c.GlossaryEntries) << ' ' << filled(c.HelpTexts) << ", marks "
-            << std::ranges::count_if(c.SectionMarks, [](int at) { return at != 0; }) << ", topics";
+            << filled(c.GlossaryEntries) << ' ' << filled(c.HelpTexts) << ", topics";
         for (int t = 1; t <= TopicCount; ++t)
             out << ' ' << c.ItemCounts[t][1];
     } else {
-        out << "; grade " << s.PassingGrade << ", suspended " << s.SuspendedTestRecord << '/'
+        out << "; grade " << s.PassingGrade << ", " << s.SuspendedTestRecord << '/'
             << s.SuspendedExamRecord << ", test " << s.TestItemCount << '@' << s.TestPosition
             << " [" << items(s.TestItems) << "], exam " << s.ExamKind << ':' << s.ExamItemCount
-            << '@' << s.ExamPosition << " [" << items(s.ExamItems) << "] answer "
-            << s.ExamAnswers[1] << " unsure " << s.ExamUnsure[1] << ", records "
-            << ReadReviewTestRecords().size() << '+' << ReadExamRecords().size();
+            << '@' << s.ExamPosition << " [" << items(s.ExamItems) << "] " << s.ExamAnswers[1]
+            << ' ' << s.ExamUnsure[1] << ", records " << ReadReviewTestRecords().size() << '+'
+            << ReadExamRecords().size();
     }
     for (const ShownMessage& message : doubles.dialogs.messages())
         out << " | " << message.text.section(QStringLiteral("\r\n"), 0, 0).toStdString();
@@ -99,12 +98,12 @@ std::string Seen(bool content, TestServices& doubles) {
     return out.str();
 }
 
-const std::string NoRun = "test 0@0 [0 0 0 0 0], exam 1:150@0 [0 0 0 0 0] answer 0 unsure 0";
+const Run OutOfRange(5, 1, {797, -1, 32767, -32768, 796}); // item numbers
+const std::string NoRun = "test 0@0 [0 0 0 0 0], exam 1:150@0 [0 0 0 0 0] 0 0";
 const std::string Damaged = " | Your progress file TesseraConfig.MS is damaged.";
 
 const Case Cases[] = {
-    {"content_empty", true, [] { return ""; },
-     "ready; cut 0 0 0 0, marks 0, topics 0 0 0 0 0 0 0 0 0"},
+    {"content_empty", true, [] { return ""; }, "ready; cut 0 0 0 0, topics 0 0 0 0 0 0 0 0 0"},
     {"content_more_items_than_the_table", true,
      [] {
          std::string text = FullCourseContent();
@@ -115,71 +114,42 @@ const Case Cases[] = {
          const size_t topic2 = text.find(HeaderPattern(2) + "001", topic1);
          return text.insert(topic2, text.substr(topic1, topic2 - topic1));
      },
-     "ready; cut 796 300 1181 17, marks 11, topics 180 70 100 85 100 90 95 66 10"},
+     "ready; cut 796 300 1181 17, topics 180 70 100 85 100 90 95 66 10"},
     {"content_is_a_folder", true, nullptr,
-     "ended; cut 0 0 0 0, marks 0, topics 0 0 0 0 0 0 0 0 0 | Unrecoverable error 75 "
-     "has occurred. | The program cannot start: path/file access error in the study folder. Make "
-     "sure that the folder may be written to and has room, then start the program again."},
-    {"progress_empty", false, [] { return ""; },
-     "ready; grade 70, suspended 0/0, " + NoRun + ", records 0+0 | Thank you. | asked the name"},
+     "ended; cut 0 0 0 0, topics 0 0 0 0 0 0 0 0 0 | Unrecoverable error 75 has occurred. | The "
+     "program cannot start: path/file access error in the study folder. Make sure that the folder "
+     "may be written to and has room, then start the program again."},
     {"progress_shorter_than_a_header", false, [] { return EarlierRun().substr(0, 500); },
-     "ready; grade 75, suspended 0/0, " + NoRun + ", records 0+0" + Damaged},
+     "ready; grade 75, 0/0, " + NoRun + ", records 0+0" + Damaged},
     {"progress_odd_length", false,
-     [] {
-         return EarlierRun(2, 0, Run{10, 3}) + std::string(123, '\x07');
-     },
-     "ready; grade 75, suspended 2/0, test 10@3 [0 0 0 0 0], exam 1:150@0 [0 0 0 0 0] answer 0 "
-     "unsure 0, "
-     "records 1+0" +
+     [] { return EarlierRun(2, 0, Run(10, 3)) + std::string(123, '\x07'); },
+     "ready; grade 75, 2/0, test 10@3 [0 0 0 0 0], exam 1:150@0 [0 0 0 0 0] 0 0, records 1+0" +
          Damaged},
-    {"progress_suspended_outside_the_file", false,
-     [] {
-         return EarlierRun(9, 200, Run{10, 3});
-     },
-     "ready; grade 75, suspended 0/0, " + NoRun + ", records 1+0"},
-    {"progress_suspended_at_the_header", false, [] { return EarlierRun(1, 1); },
-     "ready; grade 75, suspended 0/0, " + NoRun + ", records 0+0"},
+    {"progress_suspended_at_the_header_or_outside_the_file", false,
+     [] { return EarlierRun(1, 200, Run(10, 3)); },
+     "ready; grade 75, 0/0, " + NoRun + ", records 1+0"},
     {"progress_suspended_at_the_other_kind", false,
-     [] {
-         return EarlierRun(3, 2, Run{10, 3}, Run{150, 4});
-     },
-     "ready; grade 75, suspended 0/0, " + NoRun + ", records 1+1"},
+     [] { return EarlierRun(3, 2, Run(10, 3), Run(150, 4)); },
+     "ready; grade 75, 0/0, " + NoRun + ", records 1+1"},
     {"progress_counts_past_300_and_no_exam_kind", false,
-     [] {
-         return EarlierRun(2, 3, Run{1000, 900}, Run{301, 500}, 200);
-     },
-     "ready; grade 75, suspended 2/3, test 300@300 [0 0 0 0 0], exam 1:300@300 [0 0 0 0 0] answer "
-     "0 "
-     "unsure 0, records 1+1"},
+     [] { return EarlierRun(2, 3, Run(1000, 900), Run(301, 500), 200); },
+     "ready; grade 75, 2/3, test 300@300 [0 0 0 0 0], exam 1:300@300 [0 0 0 0 0] 0 0, records 1+1"},
     {"progress_negative_counts", false,
-     [] {
-         return EarlierRun(2, 3, Run{-7, -2}, Run{-32768, -1});
-     },
-     "ready; grade 75, suspended 2/3, test 0@0 [0 0 0 0 0], exam 1:0@0 [0 0 0 0 0] answer 0 unsure "
-     "0, "
-     "records 1+1"},
+     [] { return EarlierRun(2, 3, Run(-7, -2), Run(-32768, -1)); },
+     "ready; grade 75, 2/3, test 0@0 [0 0 0 0 0], exam 1:0@0 [0 0 0 0 0] 0 0, records 1+1"},
     {"progress_item_numbers_out_of_range", false,
-     [] {
-         const Run run{5, 1, {797, -1, 32767, -32768, 796}};
-         return EarlierRun(2, 3, run, run);
-     },
-     "ready; grade 75, suspended 2/3, test 5@1 [0 0 0 0 796], exam 1:5@1 [0 0 0 0 796] answer 0 "
-     "unsure 0, "
-     "records 1+1"},
+     [] { return EarlierRun(2, 3, OutOfRange, OutOfRange); },
+     "ready; grade 75, 2/3, test 5@1 [0 0 0 0 796], exam 1:5@1 [0 0 0 0 796] 0 0, records 1+1"},
     {"progress_answer_codes_outside_the_table", false,
-     [] {
-         return EarlierRun(0, 2, {}, Run{20, 5});
-     },
-     "ready; grade 75, suspended 0/2, test 0@0 [0 0 0 0 0], exam 1:20@5 [0 0 0 0 0] answer 0 "
-     "unsure 0, "
-     "records 0+1"},
+     [] { return EarlierRun(0, 2, {}, Run(20, 5)); },
+     "ready; grade 75, 0/2, test 0@0 [0 0 0 0 0], exam 1:20@5 [0 0 0 0 0] 0 0, records 0+1"},
     {"progress_records_of_junk", false,
      [] {
          std::string junk(50 * RecordSize + 17, '\0');
          std::generate(junk.begin(), junk.end(), std::mt19937(2));
          return EarlierRun() + junk;
      },
-     "ready; grade 75, suspended 0/0, " + NoRun + ", records 1+49" + Damaged},
+     "ready; grade 75, 0/0, " + NoRun + ", records 1+49" + Damaged},
 };
 
 class DamagedFile : public testing::TestWithParam<Case> {};
