@@ -72,8 +72,8 @@ class RtfWriter {
 public:
     explicit RtfWriter(const QTextDocument& document) : m_document(document) {}
 
-    // With `whole`, an empty last paragraph is written too, so that its format comes back.
-    std::string write(int from, int to, const QTextCharFormat& emptyFormat, bool whole);
+    // An empty last paragraph is written too, so that its format comes back.
+    std::string write(int to, const QTextCharFormat& emptyFormat);
 
 private:
     void paragraph(const QTextBlock& block);
@@ -103,19 +103,17 @@ private:
     QList<QColor> m_colours;
 };
 
-std::string RtfWriter::write(int from, int to, const QTextCharFormat& emptyFormat, bool whole) {
-    if (from == to) {
-        paragraph(m_document.findBlock(from));
+std::string RtfWriter::write(int to, const QTextCharFormat& emptyFormat) {
+    if (to == 0) {
+        paragraph(m_document.firstBlock());
         charFormat(emptyFormat);
     }
-    for (QTextBlock block = m_document.findBlock(from); block.isValid() && from < to;
+    for (QTextBlock block = m_document.firstBlock(); block.isValid() && to > 0;
          block = block.next()) {
-        if (block.position() > to || (block.position() == to && !whole))
-            break;
         paragraph(block);
         for (auto it = block.begin(); !it.atEnd(); ++it) {
             const QTextFragment fragment = it.fragment();
-            const int start = std::max(from, fragment.position());
+            const int start = fragment.position();
             const int end = std::min(to, fragment.position() + fragment.length());
             if (start >= end)
                 continue;
@@ -324,12 +322,7 @@ std::string RtfWriter::header() const {
 std::string writeRtf(const QTextDocument& document) {
     QTextCursor all(const_cast<QTextDocument*>(&document));
     all.movePosition(QTextCursor::End, QTextCursor::KeepAnchor);
-    return RtfWriter(document).write(0, all.position(), all.charFormat(), true);
-}
-
-std::string writeRtf(const QTextCursor& selection) {
-    return RtfWriter(*selection.document())
-        .write(selection.selectionStart(), selection.selectionEnd(), selection.charFormat(), false);
+    return RtfWriter(document).write(all.position(), all.charFormat());
 }
 
 } // namespace tessera

@@ -247,27 +247,6 @@ TEST(Rtf, WordProcessorFilesReadAsLibreOfficeReadsThemAndSurviveSaveThenLoad) {
     }
 }
 
-// A selection writes only itself; none, the prologue in the cursor's format.
-TEST(Rtf, WritesTheSelection) {
-    QTextDocument document;
-    readRtf("{\\rtf1{\\fonttbl{\\f0 Arial;}}\\f0 first\\par {\\b second} para\\par third}",
-            document);
-    QTextCursor cursor(&document);
-    cursor.setPosition(8);
-    cursor.setPosition(18, QTextCursor::KeepAnchor);
-    QTextDocument selection;
-    readRtf(writeRtf(cursor), selection);
-    EXPECT_EQ(Rendered(selection), "#cond[b 12 Arial] para[ 12 Arial]#");
-    cursor.setPosition(0);
-    QTextCharFormat format;
-    format.setFontFamilies(QStringList{QStringLiteral("Arial")});
-    format.setFontPointSize(11.5);
-    format.setFontWeight(QFont::Bold);
-    cursor.setCharFormat(format);
-    EXPECT_EQ(writeRtf(cursor), "{\\rtf1\\ansi\\deff0\\deflang1033{\\fonttbl{\\f0\\fswiss Arial;}}"
-                                "\r\n\\viewkind4\\uc1\\pard\\b\\f0\\fs23 \r\n}\r\n");
-}
-
 const std::string Prologue = "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\\fs20\\li300 Title\\par ";
 
 // The large version of a course document: its sizes and indents scaled by 16/11.
