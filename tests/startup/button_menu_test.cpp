@@ -114,30 +114,57 @@ private Q_SLOTS:
         }
     }
 
-    void captionsFollowTheProgressWhenTheHostRefreshes() {
-        Menu m;
-        m.state.TakeCounts[2] = 1;
-        m.open();
-        m.state.TestPosition = 3;
-        m.state.CurrentTopic = 2;
-        m.state.TestType = 4;
-        m.state.ExamPosition = 9;
-        m.state.ExamType = 1;
-        m.screens.refreshNavigation(); // not placed with the host: nothing happens
-        const auto captions = [&m] {
-            QStringList texts;
-            for (const char* name : {"Option1_0", "Option1_1", "Command1_1"})
-                texts << m.button(QString::fromLatin1(name))->text();
-            return texts.join(u'|');
+    // The counters of topics 1 to 9 and Exams I to III, a suspended test's topic and type and
+    // a suspended exam's type, as the host's refresh shows them: the two options, the report
+    // cards (x for enabled), the Financing button and the topics that are enabled.
+    void captionsFollowTheCountersAndWhatIsSuspended() {
+        const std::string Options = "Topic &Review Test|&Screening Exam|xx|";
+        const std::string Financing = "Financing Real Estate - ";
+        const std::tuple<const char*, int, int, int, std::string> cases[] = {
+            {"000000000000", 0, 0, 0, Options + Financing + "1st Drill|xxxxxxxxx"},
+            {"000010000000", 0, 0, 0, Options + Financing + "2nd Drill|xxxxxxxxx"},
+            {"000020000000", 0, 0, 0, Options + Financing + "Last Drill|xxxxxxxxx"},
+            {"000030000000", 0, 0, 0, Options + Financing + "Finished|xxxx-xxxx"},
+            {"333333332332", 0, 0, 0, Options + Financing + "Finished|--------x"},
+            // The topics are left as they were.
+            {"333333333332", 0, 0, 0,
+             "All Topics Reviewed Three Times (off)|&Screening Exam|xx|" + Financing +
+                 "1st Drill|xxxxxxxxx"},
+            {"000000000333", 0, 0, 0,
+             "Topic &Review Test|All Exams Taken Three Times (off)|xx|" + Financing +
+                 "1st Drill|xxxxxxxxx"},
+            // A suspended test outranks the finished course, and locks its report card.
+            {"333333333000", 3, 1, 5,
+             "Resume Topic 3 &Review, All Items|Resume &Screening Exam, Retake Missed Items|--|" +
+                 Financing + "1st Drill|xxxxxxxxx"},
+            {"000000000000", 0, 0, 3,
+             "Topic &Review Test|Resume &Screening Exam, Custom Built|x-|" + Financing +
+                 "1st Drill|xxxxxxxxx"},
         };
-        QCOMPARE(captions(), QStringLiteral("Topic &Review Test|&Screening Exam|"
-                                            "Preliminary Evaluation - 2nd Drill"));
-        m.screens.place(ScreenName::ButtonMenu, m.menu.get());
-        m.screens.refreshNavigation();
-        QCOMPARE(captions(), QStringLiteral("Resume Topic 2 &Review, Retake Wild Guesses|Resume "
-                                            "&Screening Exam, Screening Exam I|"
-                                            "Preliminary Evaluation - 2nd Drill"));
-        QVERIFY(m.rendered().ends_with("off: Command2_0 Command2_1"));
+        for (const auto& [takes, topic, testType, examType, expected] : cases) {
+            Menu m;
+            m.screens.place(ScreenName::ButtonMenu, &m.open());
+            for (int counter = 1; counter <= 12; ++counter)
+                m.state.TakeCounts[counter] = static_cast<int16_t>(takes[counter - 1] - '0');
+            m.state.TestPosition = topic == 0 ? 0 : 12;
+            m.state.CurrentTopic = static_cast<int16_t>(topic == 0 ? 1 : topic);
+            m.state.TestType = static_cast<int16_t>(testType);
+            m.state.ExamPosition = examType == 0 ? 0 : 40;
+            m.state.ExamType = static_cast<int16_t>(examType);
+            m.screens.refreshNavigation();
+            std::string shown;
+            for (const char* name : {"Option1_0", "Option1_1"}) {
+                const QAbstractButton* option = m.button(QString::fromLatin1(name));
+                shown += option->text().toStdString() + (option->isEnabled() ? "|" : " (off)|");
+            }
+            for (int card : {0, 1})
+                shown += m.button(QStringLiteral("Command2_%1").arg(card))->isEnabled() ? 'x' : '-';
+            shown += "|" + m.button(QStringLiteral("Command1_4"))->text().toStdString() + "|";
+            for (int topic = 0; topic < 9; ++topic)
+                shown +=
+                    m.button(QStringLiteral("Command1_%1").arg(topic))->isEnabled() ? 'x' : '-';
+            QCOMPARE(shown, expected);
+        }
     }
 
     void keyboardReachesEverything() {

@@ -140,12 +140,6 @@ const Case Cases[] = {
      {Ok},
      Running,
      "ready " + PatDoe + "/75/Courier New asked 0 marker(another run) progress 940:75:0 backups 1"},
-    {"later start",
-     Earlier,
-     {},
-     {},
-     "",
-     "ready " + PatDoe + "/75/Courier New asked 0 marker() progress 940:75:0 backups 1"},
     {"no printer",
      [](Start& s) {
          Earlier(s);
@@ -157,15 +151,9 @@ const Case Cases[] = {
      "cause is that\r\nyou have not selected a printer from the Windows Control Panel.\r\nOpen "
      "the Control Panel, double-click the Printers icon, and choose Add to install a printer.\n",
      "ready " + PatDoe + "/75//no printer asked 0 marker() progress 940:75:0 backups 1"},
-    {"first run trims the name",
+    {"blanks ask again, a name is trimmed and cut",
      [](Start&) {},
-     {QStringLiteral("   Pat Doe")},
-     {Yes},
-     Confirm("Pat Doe"),
-     "ready " + PatDoe + "/70/Courier New asked 1 marker() notebook progress 940:70:0 backups 1"},
-    {"blanks ask again, a long name is cut",
-     [](Start&) {},
-     {QStringLiteral("   "), LongName},
+     {QStringLiteral("   "), QStringLiteral("   ") + LongName},
      {Yes},
      Confirm(LongName.left(30).toStdString()),
      "ready " + LongName.left(30).toStdString() +
