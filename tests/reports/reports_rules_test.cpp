@@ -203,68 +203,35 @@ TEST(ScoringRows, AStoredExamComesBackForResultsWithItsAnswersAndMarks) {
     EXPECT_EQ(state.ExamItems[6], 106);
 }
 
-ScoringRow PlainRow() {
-    return {CardExam(10, 1, "12-20-2026", 0.5F, {1, 6}), 1};
-}
-
-ScoringRow CustomRow() {
-    ScoringRow row{CardExam(12, 3, "01-05-2027", 0.5F, {1, 6}), 2};
-    row.record.Topics[2] = row.record.Topics[7] = 1;
-    return row;
-}
-
-QString Joined(const std::vector<QString>& lines) {
-    return QStringList(lines.begin(), lines.end()).join(u'\n');
-}
-
-// Whatever font an earlier print left, the card asks for its own or the fixed-pitch fallback.
-TEST(ScoringPrint, PagesBreakAfterLine61AndEachCopyHasItsOwnHeadsRowsAndTotals) {
-    const QString rule(89, u'-');
-    const QString opening =
-        Joined({QString(), u"Screening Exam Report Card"_s, QString(),
-                u"               Date    Percent Questions  Number   Unsure  Scrambled  "
-                "Allotted  Time Used"_s,
-                u"Exam Title     Taken   Correct   Asked   Answered  Answers   Order   "
-                "Time (min.)  (h:m:s)"_s,
-                rule});
-    const QString plain =
-        u"Exam I        12-20-2026  50.0%      2        2        0      Yes     195   1:30:30"_s;
-    const QString custom =
-        u"Custom        01-05-2027  50.0%      2        2        0      Yes     195   1:30:30\n"
-        "          Topics Covered:  2, 7\n"_s;
-    const struct {
-        int plainBefore;
-        int copies;
-        const char* font;
-    } cases[] = {{53, 1, "Courier New"}, {1, 2, ""}};
-    for (const auto& c : cases) {
-        std::vector<ScoringRow> rows(static_cast<size_t>(c.plainBefore), PlainRow());
-        rows.push_back(CustomRow());
-        rows.push_back(PlainRow());
-        RecordingPrinter printer;
-        printer.dialogAnswer = PrintChoice{c.copies, false};
-        printer.setFontName(u"Arial"_s);
-        printer.setFontSize(11);
-        printer.setFontBold(true);
-        PrintCard(printer, ScoringPaper(rows, c.font));
-        const QString closing =
-            rule + u'\n' + QString(13, u' ') + QString::fromStdString(ScoringTotalsText(rows));
-        const QString first =
-            opening + u'\n' + QStringList(c.plainBefore, plain).join(u'\n') + u'\n' + custom;
-        // 53 rows bring the page to line 60; the custom exam's three lines then pass line 61.
-        const QString pages =
-            c.copies == 2
-                ? first + u'\n' + plain + u'\n' + closing + u'\f' + first + u'\n' + plain + u'\n' +
-                      closing
-                : first + u"\f\nScreening Exam Report Card (cont.)\n\n"_s + plain + u'\n' + closing;
-        EXPECT_EQ(Joined(printer.pageText(1)) + u'\f' + Joined(printer.pageText(2)), pages);
-        EXPECT_TRUE(printer.pageText(3).empty());
-        EXPECT_EQ(printer.jobsEnded, 1);
-        EXPECT_EQ(printer.dialogsShown, std::vector<PrintDialogKind>{PrintDialogKind::Table});
-        for (const PrintedLine& line : printer.lines)
-            EXPECT_EQ(std::tuple(line.fontName, line.fontSize, line.bold),
-                      std::tuple(QString::fromLatin1(c.font), 10.0, false));
-    }
+// 53 rows bring the page to line 60; the custom exam's three lines then pass line 61 and go on
+// with the rest after the heading "(cont.)". Whatever font an earlier print left, the card asks
+// for its own or the fixed-pitch fallback.
+TEST(ScoringPrint, ARowsLinesMoveWholeToTheNextPageAfterLine61) {
+    const ScoringRow plain{CardExam(10, 1, "12-20-2026", 0.5F, {1, 6}), 1};
+    ScoringRow custom{CardExam(12, 3, "01-05-2027", 0.5F, {1, 6}), 2};
+    custom.record.Topics[2] = custom.record.Topics[7] = 1;
+    std::vector<ScoringRow> rows(53, plain);
+    rows.insert(rows.end(), {custom, plain});
+    RecordingPrinter printer;
+    printer.setFontName(u"Arial"_s);
+    printer.setFontSize(11);
+    printer.setFontBold(true);
+    PrintCard(printer, ScoringPaper(rows, ""));
+    const std::vector<QString> first = printer.pageText(1);
+    const std::vector<QString> second = printer.pageText(2);
+    EXPECT_EQ(first.size(), 6U + 53U + 3U);
+    EXPECT_EQ(
+        QStringList(first.end() - 4, first.end()).join(u'\n'),
+        u"Exam I        12-20-2026  50.0%      2        2        0      Yes     195   1:30:30\n"
+        "Custom        01-05-2027  50.0%      2        2        0      Yes     195   1:30:30\n"
+        "          Topics Covered:  2, 7\n"_s);
+    EXPECT_EQ(QStringList(second.begin(), second.end()).join(u'\n'),
+              u"\nScreening Exam Report Card (cont.)\n\n"_s + first[6] + u'\n' + QString(89, u'-') +
+                  u'\n' + QString(13, u' ') + QString::fromStdString(ScoringTotalsText(rows)));
+    EXPECT_TRUE(printer.pageText(3).empty());
+    for (const PrintedLine& line : printer.lines)
+        EXPECT_EQ(std::tuple(line.fontName, line.fontSize, line.bold),
+                  std::tuple(u""_s, 10.0, false));
 }
 
 struct Slot {
