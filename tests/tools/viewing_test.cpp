@@ -1,5 +1,4 @@
-// The text and glossary viewer driven as a reader would: letter buttons and keys, the find
-// panel with its wrap round, and the discussion text's title, printing and help.
+// The text and glossary viewer as a reader drives it: letters, the find and its wrap, and help.
 
 #include "platform/rich_text_view.h"
 #include "tests/support/screen_fixture.h"
@@ -84,16 +83,12 @@ private Q_SLOTS:
             {"open 8", Glossary + "Aterm 001 0|-|Meaning number 1.|Aterm 001|.xxx..x" + Tail},
             // A letter finds its first term; again, it walks on through its terms, and from the
             // last term of the list it starts over. "A" counts as the letter last used.
-            {"open 8; press M",
-             Glossary + "Mterm 001 588|Command3_12|Meaning number 589.|Mterm 001|.xxx..x" + Tail},
             {"open 8; press M 2",
              Glossary + "Mterm 002 589|Command3_12|Meaning number 590.|Mterm 002|.xxx..x" + Tail},
             {"open 8; press A",
              Glossary + "Aterm 002 1|Command3_0|Meaning number 2.|Aterm 002|.xxx..x" + Tail},
             {"open 8; press A 49",
              Glossary + "Aterm 001 0|Command3_0|Meaning number 1.|Aterm 001|.xxx..x" + Tail},
-            {"open 8; press Z 54",
-             Glossary + "Zterm 054 1180|Command3_25|Meaning number 1181.|Zterm 054|.xxx..x" + Tail},
             {"open 8; press Z 55",
              Glossary + "Zterm 001 1127|Command3_25|Meaning number 1128.|Zterm 001|.xxx..x" + Tail},
             // Keys on a letter button jump too; a letter without terms does nothing.
@@ -132,11 +127,10 @@ private Q_SLOTS:
     void theGlossaryBoxesGrowWithTheWindow() {
         Viewer v;
         v.run("open 8");
-        const int definition = v.viewing->RichTextBox1->height(),
-                  term = v.viewing->RichTextBox2->height();
+        const QSize before(v.viewing->RichTextBox1->height(), v.viewing->RichTextBox2->height());
         v.viewing->resize(v.viewing->width(), 2 * v.viewing->height()); // as maximising does
-        QVERIFY(v.viewing->RichTextBox1->height() > definition);
-        QVERIFY(v.viewing->RichTextBox2->height() > term);
+        QVERIFY(v.viewing->RichTextBox1->height() > before.width() &&
+                v.viewing->RichTextBox2->height() > before.height());
     }
 };
 
