@@ -92,16 +92,16 @@ std::string Confirm(const std::string& name) {
            ".\n";
 }
 
+// The texts typed, '|' between them, an empty one cancelling; the answers as letters of "OCYN"
+// for Ok, Cancel, Yes and No.
 struct Case {
     const char* name;
     std::function<void(Start&)> arrange;
-    std::vector<QString> typed; // an empty text cancels
-    std::vector<MessageAnswer> answers;
+    const char* typed;
+    std::string answers;
     std::string told;
     std::string after;
 };
-
-using enum MessageAnswer;
 
 void Earlier(Start& s) {
     s.folder.write(Progress, HeaderFile());
@@ -110,13 +110,13 @@ void AnotherRun(Start& s) {
     Earlier(s);
     s.folder.write(Marker, "another run");
 }
-void Backups(Start& s, std::vector<std::pair<const char*, std::string>> stamped) {
+void Backups(Start& s, const std::string& newer) {
     std::filesystem::create_directory("Backups");
-    for (const auto& [stamp, bytes] : stamped)
-        s.folder.write(std::string("Backups/TesseraConfig ") + stamp + ".MS", bytes);
+    s.folder.write("Backups/TesseraConfig 2026-11-17 10-00-00.MS", HeaderFile(60));
+    s.folder.write("Backups/TesseraConfig 2026-11-18 10-00-00.MS", newer);
 }
 
-const QString LongName = QStringLiteral("Alexandra Konstantinopoulou-Whitfield");
+const std::string LongName = "Alexandra Konstantinopoulou-Whitfield";
 
 const Case Cases[] = {
     {"no content file",
@@ -124,59 +124,38 @@ const Case Cases[] = {
          AnotherRun(s);
          std::filesystem::remove("Tessera");
      },
-     {},
-     {},
+     "", "",
      "Missing File Detected! (critical ok): Fatal Error. This Software must be reinstalled.\n",
      "ended asked 0 marker(another run) progress 940:75:0 backups 0"},
-    {"another run cancelled",
-     AnotherRun,
-     {},
-     {Cancel},
-     Running,
+    {"another run cancelled", AnotherRun, "", "C", Running,
      "ended asked 0 marker(another run) progress 940:75:0 backups 0"},
-    {"another run taken on",
-     AnotherRun,
-     {},
-     {Ok},
-     Running,
+    {"another run taken on", AnotherRun, "", "O", Running,
      "ready " + PatDoe + "/75/Courier New asked 0 marker(another run) progress 940:75:0 backups 1"},
     {"no printer",
      [](Start& s) {
          Earlier(s);
          s.printer.fonts.reset();
      },
-     {},
-     {},
+     "", "",
      "Printer error (critical ok): There is a problem that will prevent printing. Most likely "
      "cause is that\r\nyou have not selected a printer from the Windows Control Panel.\r\nOpen "
      "the Control Panel, double-click the Printers icon, and choose Add to install a printer.\n",
      "ready " + PatDoe + "/75//no printer asked 0 marker() progress 940:75:0 backups 1"},
-    {"blanks ask again, a name is trimmed and cut",
-     [](Start&) {},
-     {QStringLiteral("   "), QStringLiteral("   ") + LongName},
-     {Yes},
-     Confirm(LongName.left(30).toStdString()),
-     "ready " + LongName.left(30).toStdString() +
+    {"blanks ask again, a name is trimmed and cut", nullptr,
+     "   |   Alexandra Konstantinopoulou-Whitfield", "Y", Confirm(LongName.substr(0, 30)),
+     "ready " + LongName.substr(0, 30) +
          "/70/Courier New asked 2 marker() notebook progress 940:70:0 backups 1"},
-    {"No, or a name outside the code page, asks again",
-     [](Start&) {},
-     {QStringLiteral("Pat Dough"), QStringLiteral("Pat \u0141ukasz"), QStringLiteral("Pat Doe")},
-     {No, Ok, Yes},
+    {"No, or a name outside the code page, asks again", nullptr,
+     "Pat Dough|Pat \u0141ukasz|Pat Doe", "NOY",
      Confirm("Pat Dough") +
          "Software User's Name (exclamation ok): The name can use only letters, figures and "
          "signs of Western European languages. Please type it again.\n" +
          Confirm("Pat Doe"),
      "ready " + PatDoe + "/70/Courier New asked 3 marker() notebook progress 940:70:0 backups 1"},
-    {"cancel, then exit, leaves a first run",
-     [](Start&) {},
-     {QString(), QString()},
-     {No, Yes},
-     Exit + Exit,
+    {"cancel, then exit, leaves a first run", nullptr, "|", "NY", Exit + Exit,
      "ended asked 2 backups 0"},
     {"a folder that cannot be written gives up after a few tries",
-     [](Start&) { std::filesystem::create_directory(NoteBook); },
-     {QStringLiteral("Pat Doe")},
-     {Yes},
+     [](Start&) { std::filesystem::create_directory(NoteBook); }, "Pat Doe", "Y",
      Confirm("Pat Doe") +
          "Path/File access error (critical ok): Unrecoverable error 75 has occurred.\n"
          "Path/File access error (critical ok): The program cannot start: path/file access "
@@ -186,28 +165,23 @@ const Case Cases[] = {
     {"a damaged file restored from the newest good backup",
      [](Start& s) {
          s.folder.write(Progress, HeaderFile(70) + "cut");
-         Backups(
-             s, {{"2026-11-17 10-00-00", HeaderFile(60)}, {"2026-11-18 10-00-00", HeaderFile(65)}});
+         Backups(s, HeaderFile(65));
      },
-     {},
-     {Yes},
+     "", "Y",
      Damaged("yes/no") + "The newest good backup is Backups/TesseraConfig 2026-11-18 10-00-00" +
          Offer,
      "ready " + PatDoe + "/65/Courier New asked 0 marker() progress 940:65:0 backups 3"},
     {"an impossible log kept, a cut backup passed over",
      [](Start& s) {
          s.folder.write(Progress, HeaderFile(70, 40));
-         Backups(s, {{"2026-11-17 10-00-00", HeaderFile(60)}, {"2026-11-18 10-00-00", "cut"}});
+         Backups(s, "cut");
      },
-     {},
-     {No},
+     "", "N",
      Damaged("yes/no") + "The newest good backup is Backups/TesseraConfig 2026-11-17 10-00-00" +
          Offer,
      "ready " + PatDoe + "/70/Courier New asked 0 marker() progress 940:70:0 backups 2"},
     {"a grade over a hundred without backups",
-     [](Start& s) { s.folder.write(Progress, HeaderFile(170)); },
-     {},
-     {Ok},
+     [](Start& s) { s.folder.write(Progress, HeaderFile(170)); }, "", "O",
      Damaged("ok") +
          "No good backup of it was found in the Backups folder. The program will use what "
          "it can read.\n",
@@ -223,8 +197,7 @@ const Case Cases[] = {
          running.TestPosition = 2;
          JournalReviewTest(running, s.clock.now());
      },
-     {},
-     {},
+     "", "",
      "Test Recovered! (information ok): The program stopped during a review test and did not "
      "save it.\r\nYour answers up to the last one were kept. Resume the test from the "
      "Navigation Screen.\n",
@@ -234,11 +207,13 @@ const Case Cases[] = {
 TEST(StartUp, TellsExactlyAndLeavesTheFolderAsItShould) {
     for (const Case& c : Cases) {
         Start s;
-        c.arrange(s);
-        for (const QString& text : c.typed)
-            s.dialogs.type(text);
-        for (const MessageAnswer answer : c.answers)
-            s.dialogs.answer(answer);
+        if (c.arrange)
+            c.arrange(s);
+        if (*c.typed != '\0')
+            for (const QString& text : QString::fromUtf8(c.typed).split(u'|'))
+                s.dialogs.type(text);
+        for (const char answer : c.answers)
+            s.dialogs.answer(static_cast<MessageAnswer>(std::string("OCYN").find(answer)));
         const StartUpOutcome outcome = s.run();
         const std::string told = s.dialogs.messagesText().toStdString();
         EXPECT_EQ(told.empty() ? told : told + '\n', c.told) << c.name;
@@ -252,7 +227,7 @@ TEST(StartUp, FirstRunWritesTheHeaderOverZerosAndTheNotebook) {
     zeros[700] = 'R'; // the log and reserved bytes pass through
     s.folder.write(Progress, zeros);
     s.dialogs.type(QStringLiteral("Pat Doe"));
-    s.dialogs.answer(Yes);
+    s.dialogs.answer(MessageAnswer::Yes);
 
     EXPECT_EQ(s.run(), StartUpOutcome::Ready);
     EXPECT_EQ(s.folder.read(Progress),
@@ -282,7 +257,7 @@ TEST(StartUp, FirstStartOfADayAndEveryRewriteKeepTheNewestTenBackups) {
     Start s;
     s.folder.write(Progress, HeaderFile(70, 1));
     ASSERT_EQ(s.run(), StartUpOutcome::Ready);
-    s.dialogs.answer(Ok); // to the marker the first start left
+    s.dialogs.answer(MessageAnswer::Ok); // to the marker the first start left
     s.clock.advanceSeconds(3600);
     ASSERT_EQ(s.run(), StartUpOutcome::Ready); // the same day: no second backup
     EXPECT_EQ(s.backups(), std::vector<std::string>{"TesseraConfig 2026-11-19 09-00-00.MS"});
