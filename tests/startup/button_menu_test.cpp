@@ -62,20 +62,15 @@ class ButtonMenuTest : public QObject {
 private Q_SLOTS:
     void clicksOpenFramesAndScreens() {
         const std::tuple<std::function<void(Menu&)>, const char*, std::string> cases[] = {
-            {{}, "Option1_0", "x---- option 0 |  | topic 1 help 1 viewer 1 | off:"},
-            {{}, "Option1_3", "--x-- option 3 |  | topic 1 help 1 viewer 1 | off:"},
-            {{}, "Option1_1", "----- option 6 | show ExamSet | topic 1 help 1 viewer 1 | off:"},
-            {{},
-             "Option1_0 Command1_2",
-             "----- option 6 | show Quiz800 | topic 3 help 1 viewer 1 | off:"},
-            {{},
-             "Command2_0 Command2_1 Command2_2 Command5_2",
+            {nullptr, "Option1_3", "--x-- option 3 |  | topic 1 help 1 viewer 1 | off:"},
+            {nullptr, "Option1_1 Option1_0 Command1_2",
+             "----- option 6 | show ExamSet, show Quiz800 | topic 3 help 1 viewer 1 | off:"},
+            {nullptr,
+             "Command2_0 Command2_1 Command2_2 Command5_2 Command3_1 Command3_2 Command3_3 "
+             "Command3_4",
              "----- option 6 | unload QuizSumm, show QuizSumm, unload Scoring, show Scoring, modal "
-             "Navigator, unload Help, show Help | topic 1 help 17 viewer 1 | off:"},
-            {{},
-             "Command3_1 Command3_2 Command3_3 Command3_4",
-             "----- option 6 | show NoteBook, show Calculator, show AlarmForm, modal Preferences | "
-             "topic 1 help 1 viewer 1 | off:"},
+             "Navigator, unload Help, show Help, show NoteBook, show Calculator, show AlarmForm, "
+             "modal Preferences | topic 1 help 17 viewer 1 | off:"},
             // A suspended test or exam opens at once.
             {[](Menu& m) {
                  m.state.ExamPosition = 5;
