@@ -1,13 +1,18 @@
-// The program as the application object runs it: the title screen, its hand-over, the
-// navigation screen and the end, with every service a double.
+// The program as the application object runs it, every service a double: the title screen,
+// its hand-over, the screens it loads, the help window, and the end.
 
 #include "app/application.h"
 #include "app/deferred_sound.h"
 #include "core/pubdat.h"
+#include "platform/rich_text_view.h"
 #include "tests/support/screen_fixture.h"
+#include "tests/support/small_course.h"
+#include "tools/help.h"
 
 #include <QLabel>
 #include <QPointer>
+#include <QScrollBar>
+#include <QTextBlock>
 #include <QtTest>
 
 #include <optional>
@@ -51,9 +56,20 @@ struct Program {
     std::optional<Application> app{std::in_place, doubles.services};
 };
 
+// The help windows open, each as its text's first line.
+QString openHelpWindows() {
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QStringList shown;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (auto* help = qobject_cast<Help*>(window); help != nullptr && help->isVisible())
+            shown << help->RichTextBox1->text().trimmed();
+    }
+    return shown.join(u',');
+}
+
 } // namespace
 
-class TitleScreenTest : public QObject {
+class ApplicationTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -135,6 +151,64 @@ private Q_SLOTS:
         QVERIFY(!calculator && p.app->find(ScreenName::Calculator) == nullptr);
     }
 
+    void oneWindowOnTheLastCallersTopic() {
+        Program s;
+        FillSmallCourse(s.app->state());
+        const std::tuple<HelpTopic, HelpOpening, QString> calls[] = {
+            {HelpTopic::Glossary, HelpOpening::Comparing, QStringLiteral("Help text 7")},
+            // The same topic keeps the window, which the next step would otherwise find apart.
+            {HelpTopic::Glossary, HelpOpening::Comparing, QStringLiteral("Help text 7")},
+            {HelpTopic::DiscussionText, HelpOpening::Comparing, QStringLiteral("Help text 4")},
+            {HelpTopic::NoteBook, HelpOpening::Afresh, QStringLiteral("Help text 8")},
+            {HelpTopic::NoteBook, HelpOpening::Afresh, QStringLiteral("Help text 8")},
+        };
+        QWidget* first = nullptr;
+        for (const auto& [topic, opening, shown] : calls) {
+            s.app->openHelp(s.app->state(), topic, opening);
+            QCOMPARE(openHelpWindows(), shown);
+            QCOMPARE(s.app->state().HelpTopic, int(topic));
+            if (first == nullptr)
+                first = s.app->find(ScreenName::Help);
+            else if (topic == HelpTopic::Glossary)
+                QCOMPARE(s.app->find(ScreenName::Help), first); // not loaded again
+        }
+    }
+
+    void maximisedShowsTheLargeVersionKeepingThePlaceAndTakesNoTyping() {
+        Program s;
+        FillSmallCourse(s.app->state());
+        s.app->state().HelpTopic = 5;
+        std::string& text = s.app->state().content.HelpTexts[5];
+        text = "\\par \\fs24 Help text 5";
+        for (int line = 1; line <= 150; ++line)
+            text += "\r\n\\par Line " + std::to_string(line);
+        text += "\r\n\\par }\r\n";
+        auto* help = qobject_cast<Help*>(s.app->show(ScreenName::Help));
+        QVERIFY(help != nullptr);
+        RichTextView* view = help->RichTextBox1;
+        const QString reading = QStringLiteral("Line 64");
+        view->verticalScrollBar()->setValue(
+            view->cursorRect(view->document()->find(reading)).top()); // Line 64 at the top
+        // The font size at the end (\fs24, then \fs34) and the line at the top.
+        const auto shown = [view] {
+            QTextCursor end(view->document());
+            end.movePosition(QTextCursor::End);
+            return QStringLiteral("%1 %2")
+                .arg(end.charFormat().fontPointSize())
+                .arg(view->cursorForPosition(QPoint(0, 5)).block().text());
+        };
+        QCOMPARE(shown(), QStringLiteral("12 Line 64"));
+        help->showMaximized();
+        QCOMPARE(shown(), QStringLiteral("17 Line 64"));
+        help->showMinimized();
+        help->showNormal();
+        QCOMPARE(shown(), QStringLiteral("12 Line 64"));
+
+        const QString before = view->text();
+        QTest::keyClicks(view, QStringLiteral("typed"));
+        QTest::keyClick(view, Qt::Key_Backspace);
+        QCOMPARE(view->text(), before);
+    }
     void toneModuleLoadsOnFirstUse() {
         DeferredSound sound;
         QVERIFY(sound.load());
@@ -153,5 +227,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TitleScreenTest)
-#include "title_screen_test.moc"
+QTEST_MAIN(ApplicationTest)
+#include "application_test.moc"
