@@ -1,8 +1,12 @@
-// The calculator's state machine, driven key by key through CalculatorKey's table.
+// The desk tools' rules: the calculator's state machine driven key by key through
+// CalculatorKey's table, its numbers as text, and the alarm clock's time arithmetic.
 
+#include "tools/alarm_time.h"
 #include "tools/calculator_keys.h"
 #include "tools/calculator_machine.h"
 #include "tools/numeric_text.h"
+
+#include <QStringList>
 
 #include <gtest/gtest.h>
 
@@ -81,15 +85,44 @@ TEST(NumericText, ReadsTheLongestPrefixAndWritesFifteenDigits) {
     for (const auto& [text, value] : read)
         EXPECT_EQ(NumericValue(text), value) << text;
     EXPECT_TRUE(std::isinf(NumericValue("-1E+400")));
-    const std::pair<double, const char*> written[] = {
-        {5, "5"},
-        {0.5, "0.5"},
-        {1e20, "1E+20"},
-        {-0.0, "0"},
-        {123456789012345678.0, "1.23456789012346E+17"},
+    EXPECT_EQ(FloatText(5) + " " + FloatText(0.5) + " " + FloatText(1e20) + " " + FloatText(-0.0) +
+                  " " + FloatText(123456789012345678.0),
+              "5 0.5 1E+20 0 1.23456789012346E+17");
+}
+
+constexpr int at(int hours, int minutes, int seconds = 0) {
+    return hours * 3600 + minutes * 60 + seconds;
+}
+
+TEST(AlarmTime, ReadsTwelveAndTwentyFourHourTimes) {
+    const std::pair<const char*, std::optional<int>> cases[] = {
+        {"7:30", at(7, 30)},        {"7:30 PM", at(19, 30)},
+        {"19:30", at(19, 30)},      {"7:30:15 pm", at(19, 30, 15)},
+        {"7 PM", at(19, 0)},        {"12:00 AM", 0},
+        {"12:15 PM", at(12, 15)},   {" 2:00 ", at(2, 0)},
+        {"0:05", at(0, 5)},         {"25:00", std::nullopt},
+        {"13:00 PM", std::nullopt}, {"7:60", std::nullopt},
+        {"7", std::nullopt},        {"noon", std::nullopt},
+        {"", std::nullopt},
     };
-    for (const auto& [value, text] : written)
-        EXPECT_EQ(FloatText(value), text);
+    for (const auto& [text, expected] : cases)
+        EXPECT_EQ(ParseTimeOfDay(QString::fromLatin1(text)), expected) << text;
+}
+
+TEST(AlarmTime, WritesTimesThatReadBackAndAutoSetsTenMinutesARow) {
+    const QStringList written = {LongTimeText(at(14, 25, 30)),   LongTimeText(0),
+                                 LongTimeText(at(12, 0, 5)),     MediumTimeText(at(7, 30, 59)),
+                                 MediumTimeText(at(23, 5)),      AutoSetRowText(0),
+                                 AutoSetRowText(AutoSetRows - 1)};
+    EXPECT_EQ(written.join(u'|'), QStringLiteral("2:25:30 PM|12:00:00 AM|12:00:05 PM|07:30 AM|"
+                                                 "11:05 PM|10 min.|600 min."));
+    for (int time = 0; time < SecondsPerDay; time += 61)
+        ASSERT_EQ(ParseTimeOfDay(LongTimeText(time)), time);
+
+    const DateValue day = DateFromParts(2026, 11, 19);
+    EXPECT_EQ(AutoSetAlarmTime(day + at(14, 15, 30) / 86400.0, 0), at(14, 25, 30));
+    EXPECT_EQ(AutoSetAlarmTime(day + at(14, 15, 30) / 86400.0, 59), at(0, 15, 30));
+    EXPECT_EQ(AutoSetAlarmTime(day + at(23, 55) / 86400.0, 0), at(0, 5));
 }
 
 } // namespace
