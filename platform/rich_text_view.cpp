@@ -84,11 +84,7 @@ void RichTextView::setSelLength(int length) {
 }
 
 QString RichTextView::selText() const {
-    QString text = textCursor().selectedText();
-    text.replace(QChar(QChar::ParagraphSeparator), QChar(u'\n'));
-    text.replace(QChar(QChar::LineSeparator), QChar(u'\n'));
-    text.replace(QChar(QChar::Nbsp), QChar(u' '));
-    return text;
+    return plainChars(textCursor().selectedText());
 }
 
 bool RichTextView::loadFile(const QString& fileName) {

@@ -38,8 +38,7 @@ void readRtf(std::string_view rtf, QTextDocument& document) {
     document.setUndoRedoEnabled(undo);
 }
 
-QString plainTextOf(const QTextDocument& document) {
-    QString text = document.toRawText();
+QString plainChars(QString text) {
     for (QChar& ch : text) {
         switch (ch.unicode()) {
         case QChar::ParagraphSeparator:
@@ -54,6 +53,10 @@ QString plainTextOf(const QTextDocument& document) {
         }
     }
     return text;
+}
+
+QString plainTextOf(const QTextDocument& document) {
+    return plainChars(document.toRawText());
 }
 
 } // namespace tessera

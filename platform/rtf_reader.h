@@ -14,8 +14,10 @@ namespace tessera {
 // Windows-1252. Malformed input is read as far as it goes.
 void readRtf(std::string_view rtf, QTextDocument& document);
 
-// The plain text of a document, one character for each cursor position: a paragraph or line
-// break is '\n', a picture U+FFFC.
+// Text as Qt keeps it, made plain: a paragraph or line break is '\n', a no-break space ' '.
+QString plainChars(QString text);
+
+// The plain text of a document, one character for each cursor position; a picture is U+FFFC.
 QString plainTextOf(const QTextDocument& document);
 
 // Twips to the document's units (pixels at 96 dots an inch) and back.
