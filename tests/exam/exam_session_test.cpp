@@ -145,6 +145,7 @@ TEST(ExamSession, StepsMoveItemsBetweenTheListsMarkThemUnsureAndEndTheExam) {
         {5, 0, "nCn", "Item 3 of 5 [  ] 2C 1,>3,4,5* ABCDNPBFU 20% @Next"},
         {5, 0, "nCna0", "Item 2 of 5 [  C] >2C* 1,>3,4,5 AB.DN.BFU 20% @Next"},
         {5, 0, "nCna0A", "Item 2 of 5 [  A] >2A* 1,>3,4,5 .BCDN.BFU 20% @Next"},
+        {5, 0, "nCnp", "Item 1 of 5 [  ] 2C >1,3,4,5* ABCDN.BFU 20% @Next"},
         {5, 0, "nCna0Ar3Dr0r3", "Item 5 of 5 [  D] >2A 1,3,4,>5* ABC..PBFU 20% @Previous"},
         {5, 0, "AB", "Item 1 of 5 [  B] - >1,2,3,4,5* A.CDN.CFU 0% @Next"},
         {5, 0, "ABA", "Item 1 of 5 [  A?  (Unsure of Answer)] - >1,2,3,4,5* .BCDN.CFU 0% @Next"},
@@ -169,6 +170,25 @@ TEST(ExamSession, StepsMoveItemsBetweenTheListsMarkThemUnsureAndEndTheExam) {
         Play(exam.open(), c.steps);
         EXPECT_EQ(Shown(*exam.session), c.shown) << c.steps;
     }
+}
+
+// A retake keeps the items the report card chose; the answers of the last sitting go.
+TEST(ExamSession, RetakeKeepsItsItemsAndClearsTheAnswers) {
+    Exam exam(3);
+    SessionState& s = exam.state;
+    s.ExamType = 4;
+    for (int p = 1; p <= 3; ++p) {
+        s.ExamItems[p] = static_cast<int16_t>(10 + p);
+        s.ExamAnswers[p] = s.ExamUnsure[p] = s.ExamAnswered[p] = s.ExamAnswerCounts[p] = 1;
+    }
+    exam.open();
+    std::string kept;
+    for (int p = 1; p <= 3; ++p)
+        kept += std::to_string(s.ExamItems[p]) + ":" +
+                std::to_string(s.ExamAnswers[p] + s.ExamUnsure[p] + s.ExamAnswered[p] +
+                               s.ExamAnswerCounts[p]) +
+                " ";
+    EXPECT_EQ(kept, "11:0 12:0 13:0 ");
 }
 
 TEST(ExamSession, KeysAnswerByTheirSourcesRules) {

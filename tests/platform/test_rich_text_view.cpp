@@ -1,4 +1,5 @@
-// The rich text box: selection by plain-text positions, the copy-only keys, printing, the margin.
+// The rich text box: selection by plain-text positions, a file that cannot be read, the copy-only
+// keys, printing, the margin.
 
 #include "platform/print_rich_text.h"
 #include "platform/rich_text_view.h"
@@ -35,6 +36,7 @@ private Q_SLOTS:
                          .arg(view.selLength());
         }
         QCOMPARE(shown, QStringLiteral("fiduciary 21 9|ency\nA bro 2 10| 39 0|"));
+        QVERIFY(!view.loadFile(QStringLiteral("no such notes.rtf")));
     }
 
     void copyOnlyPassesOnlyTheCopyKey() {

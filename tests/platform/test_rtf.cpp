@@ -160,7 +160,8 @@ TEST(Rtf, ReadsTheTextAsTheCandidateSeesItAndWritesItBack) {
          "three\\par\\pard plain\\par\\ls2 dot}",
          QStringLiteral("3.\tone\n4.\ttwo\n4.a) sub\n4.b) sub\n5.\tthree\nplain\n\u2022\tdot")},
         // Without a list table the label that the writer kept is what shows.
-        {"list label kept", "{\\rtf1\\pard{\\listtext 1.\\tab}one}", QStringLiteral("1.\tone")},
+        {"list label kept", "{\\rtf1\\pard{\\listtext 1.\\tab}one\\~two}",
+         QStringLiteral("1.\tone two")},
         {"unbalanced", "{\\rtf1 unbalanced {\\b bold", QStringLiteral("unbalanced bold")},
         {"cut after a backslash", "{\\rtf1 a\\", QStringLiteral("a")},
         {"cut in a hex escape", "{\\rtf1 a\\'4", QStringLiteral("a")},
