@@ -118,10 +118,8 @@ private Q_SLOTS:
     void missingContentFileEndsTheProgram() {
         Program p;
         std::filesystem::remove(p.folder.path() / "Tessera");
-        QVERIFY(p.app->show(ScreenName::Pubdat) == nullptr);
-        QVERIFY(p.app->ended());
-        QCOMPARE(p.app->run(), 0);
-        QVERIFY(p.app->find(ScreenName::Pubdat) == nullptr);
+        QVERIFY(p.app->show(ScreenName::Pubdat) == nullptr && p.app->ended());
+        QVERIFY(p.app->run() == 0 && p.app->find(ScreenName::Pubdat) == nullptr);
     }
 
     void screensLoadOnceUnloadForGoodAndKeepTheirPlace() {
@@ -130,8 +128,9 @@ private Q_SLOTS:
         SessionState& state = p.app->state();
         state.WindowLeft[CalculatorSlot] = 120;
         state.WindowTop[CalculatorSlot] = 90;
-        QVERIFY(p.app->isAvailable(ScreenName::Calculator));
-        QVERIFY(!p.app->isAvailable(ScreenName::Aladdin)); // Quiz800 opens it itself
+        // Quiz800 opens Aladdin itself.
+        QVERIFY(p.app->isAvailable(ScreenName::Calculator) &&
+                !p.app->isAvailable(ScreenName::Aladdin));
 
         QPointer<QWidget> calculator = p.app->show(ScreenName::Calculator);
         QCOMPARE(p.app->load(ScreenName::Calculator), calculator.data());
@@ -186,9 +185,8 @@ private Q_SLOTS:
         auto* help = qobject_cast<Help*>(s.app->show(ScreenName::Help));
         QVERIFY(help != nullptr);
         RichTextView* view = help->RichTextBox1;
-        const QString reading = QStringLiteral("Line 64");
         view->verticalScrollBar()->setValue(
-            view->cursorRect(view->document()->find(reading)).top()); // Line 64 at the top
+            view->cursorRect(view->document()->find(QStringLiteral("Line 64"))).top());
         // The font size at the end (\fs24, then \fs34) and the line at the top.
         const auto shown = [view] {
             QTextCursor end(view->document());
