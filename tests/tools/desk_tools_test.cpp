@@ -40,10 +40,6 @@ struct Options : ScreenFixture {
     }
     ~Options() { delete dialog; }
     std::string after(const std::string& steps) {
-        run(steps);
-        return rendered();
-    }
-    void run(const std::string& steps) {
         ScreenScript(*dialog, dialogs)
             .with("grade",
                   [this](const QString& typed) {
@@ -53,6 +49,7 @@ struct Options : ScreenFixture {
                   })
             .with("full", [this](const QString&) { full.emplace(FaultyFiles::Fault::DiskFull, 1); })
             .run(steps);
+        return rendered();
     }
     // The boxes ticked and the pictures and grade box shown (x), the grade box's text, whether
     // changes are pending and the grade they hold; the session's options and help topic; the
@@ -121,10 +118,6 @@ struct Alarm : ScreenFixture {
         dialogs.whileOpen([this] { tickedUnderABox |= form->Timer1->isActive(); });
     }
     std::string after(const std::string& steps) {
-        run(steps);
-        return rendered();
-    }
-    void run(const std::string& steps) {
         const auto tick = [this](double seconds) {
             clock.advanceSeconds(seconds);
             form->Timer1_Timer();
@@ -145,6 +138,7 @@ struct Alarm : ScreenFixture {
                       menu.showMinimized();
                   })
             .run(steps);
+        return rendered();
     }
     // The alarm shown and set, and whether its picture shows (p), the clock ticks (t) and the
     // minimized title may show it (m); the time and the title; the tones; the times the clock
@@ -286,7 +280,7 @@ private Q_SLOTS:
 
     void alarmPromptsSayWhatToType() {
         Alarm a;
-        a.run("click Command1_0; click Command1_1");
+        a.after("click Command1_0; click Command1_1");
         const QString head = u"Use any 12-or 24-hour clock time. If AM or PM is omitted from the "
                              "12-hour clock time, AM is assumed.\r\n\r\nEnter "_s;
         QCOMPARE(a.dialogs.inputs()[0].prompt + u'|' + a.dialogs.inputs()[1].prompt,

@@ -27,10 +27,6 @@ namespace {
 
 struct Viewer : ScreenFixture {
     std::string after(const std::string& steps) {
-        run(steps);
-        return rendered();
-    }
-    void run(const std::string& steps) {
         ScreenScript([this] { return viewing.get(); }, dialogs)
             .with("open",
                   [this](const QString& section) {
@@ -48,6 +44,7 @@ struct Viewer : ScreenFixture {
             .with("topic", [this](const QString& topic) { state.HelpTopic = topic.toShort(); })
             .with("noprinter", [this](const QString&) { state.PrinterProblem = true; })
             .run(steps);
+        return rendered();
     }
     // The title; the term chosen and its row; the control with the focus; the first line of
     // each text box; which commands are enabled (x), disabled (-) or hidden (.); the letters
@@ -187,7 +184,7 @@ private Q_SLOTS:
 
     void viewerGlossaryBoxesGrowWithTheWindow() {
         Viewer v;
-        v.run("open 8");
+        v.after("open 8");
         const QSize before(v.viewing->RichTextBox1->height(), v.viewing->RichTextBox2->height());
         v.viewing->resize(v.viewing->width(), 2 * v.viewing->height()); // as maximising does
         QVERIFY(v.viewing->RichTextBox1->height() > before.width() &&
