@@ -96,6 +96,13 @@ struct Calc : ScreenFixture {
         calculator->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(calculator.get()));
     }
+    std::string after(const std::string& steps) {
+        open();
+        ScreenScript([this] { return calculator.get(); }, dialogs)
+            .with("open", [this](const QString&) { open(); })
+            .run(steps);
+        return rendered();
+    }
     // The readout, the memory line, the control with the focus, the clears in a row, the help
     // topic, the screens asked for, and the messages.
     std::string rendered() const {
@@ -234,14 +241,8 @@ private Q_SLOTS:
             {"keys 5; key Esc; click Command1_2",
              "0.||Operator_4|clears 0|help 15|unload Help, show Help|"},
         };
-        for (const auto& [steps, expected] : cases) {
-            Calc c;
-            c.open();
-            ScreenScript([&c] { return c.calculator.get(); }, c.dialogs)
-                .with("open", [&c](const QString&) { c.open(); })
-                .run(steps);
-            QCOMPARE(c.rendered(), expected);
-        }
+        for (const auto& [steps, expected] : cases)
+            QCOMPARE(Calc().after(steps), expected);
     }
 
     void alarmClicksAndTicks() {
