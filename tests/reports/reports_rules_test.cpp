@@ -21,10 +21,11 @@ std::string Blanks(size_t n) {
     return std::string(n, ' ');
 }
 
-std::vector<int> Loaded(const std::vector<ScoringRow>& rows) {
-    std::vector<int> loaded;
+// The rows by the order they were loaded in, a digit each.
+std::string Loaded(const std::vector<ScoringRow>& rows) {
+    std::string loaded;
     for (const ScoringRow& row : rows)
-        loaded.push_back(row.loaded);
+        loaded += std::to_string(row.loaded);
     return loaded;
 }
 
@@ -80,7 +81,7 @@ TEST(ScoringRows, LoadingKeepsExamsOnlyWithinThe300Positions) {
     ExamRecord partial = CardExam(10, 1, "03-04-2027", 0.5F, {1, 1, 1});
     partial.ItemCount = 2; // position 3 stands past the exam's end and is not loaded
     const auto rows = LoadScoringRows({big, CardExam(13, 1, "03-05-2027", 0.5F, {1}), partial});
-    ASSERT_EQ(Loaded(rows), (std::vector<int>{1, 2}));
+    ASSERT_EQ(Loaded(rows), "12");
     EXPECT_NE(ScoringRowText(rows[0]).find("    300 "), std::string::npos);
     EXPECT_EQ(rows[1].record.Items[3] + rows[1].record.AnswerCodes[3], 0);
 }
@@ -103,19 +104,17 @@ TEST(ScoringRows, ErasingSelectsTheRowAboveOrTheNewFirst) {
     const auto three =
         LoadScoringRows({Sized("01-01-2027", 0.5F, 4, 0), Sized("01-02-2027", 0.5F, 4, 0),
                          Sized("01-03-2027", 0.5F, 4, 0)});
-    const struct {
-        int erased;
-        int selected;
-        std::vector<int> left;
-    } cases[] = {{1, 1, {2, 3}}, {2, 1, {1, 3}}, {3, 2, {1, 2}}};
-    for (const auto& c : cases) {
+    // Each row erased in turn: the row selected after, then the rows left.
+    std::string shown;
+    for (int erased : {1, 2, 3}) {
         auto rows = three;
-        EXPECT_EQ(EraseScoringRow(rows, c.erased), c.selected);
-        EXPECT_EQ(Loaded(rows), c.left);
+        const int selected = EraseScoringRow(rows, erased);
+        shown += std::to_string(selected) + ":" + Loaded(rows) + " ";
     }
     auto one = LoadScoringRows({Sized("01-01-2027", 0.5F, 4, 0)});
-    EXPECT_EQ(EraseScoringRow(one, 1), 0);
-    EXPECT_TRUE(one.empty());
+    const int selected = EraseScoringRow(one, 1);
+    shown += std::to_string(selected) + ":" + Loaded(one);
+    EXPECT_EQ(shown, "1:23 1:13 2:12 0:");
     // The rows kept are written back with each topic flag exactly one, and none for topic 0.
     one = three;
     one[0].record.Topics = {3, 1, 0, 0, 0, 0, 0, 2, 0, 0};
@@ -189,7 +188,7 @@ TEST(ScoringRows, AStoredExamComesBackForResultsWithItsAnswersAndMarks) {
     state.ExamAnswers.fill(4);
     state.ExamUnsure.fill(63);
     LoadStoredExam(state, MixedRow());
-    EXPECT_EQ(std::tuple(state.ExamItemCount, state.ExamKind), std::tuple(int16_t{6}, int16_t{2}));
+    EXPECT_EQ(std::pair(int(state.ExamItemCount), int(state.ExamKind)), std::pair(6, 2));
     EXPECT_DOUBLE_EQ(state.ExamElapsed, 90.5 / 1440.0);
     EXPECT_FLOAT_EQ(state.ExamScore, 0.4F);
     EXPECT_TRUE(state.ExamScrambled); // not stored on the card
