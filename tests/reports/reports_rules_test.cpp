@@ -53,6 +53,8 @@ TEST(ScoringRows, RowTextFillsEachColumnToItsWidth) {
          "Retake Unsure 02-02-2027   0.0%      0        0        0      Yes     195   1:30:30"},
         {CardExam(10, 4, "02-03-2027", 0.25F, {0}),
          "Retake All    02-03-2027  25.0%      1        0        0      Yes     195   1:30:30"},
+        {CardExam(11, 2, "02-04-2027", 0.25F, {0}),
+         "Exam II       02-04-2027  25.0%      1        0        0      Yes     195   1:30:30"},
     };
     for (const auto& [record, text] : cases)
         EXPECT_EQ(ScoringRowText(LoadScoringRows({record}).at(0)), text);

@@ -266,7 +266,7 @@ private Q_SLOTS:
         const int first = wrong(0);
         const int survivor = wrong(1);
         run(u"x"_s);
-        QCOMPARE(label("Label2")->textFormat(), Qt::PlainText); // "<B>" is not markup
+        QCOMPARE(label("Label2")->textFormat(), Qt::PlainText); // "<C>" is not markup
         QCOMPARE(f->sound.tones(), (std::vector<Tone>{{440, 200}}));
         quiz->Timer1_Timer(); // with the timer off the clocks stay blank
         QCOMPARE(text("Label8") + text("Label7"), u"Item Time:Elapsed Time:"_s);
