@@ -12,6 +12,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sstream>
+
 using namespace Qt::StringLiterals;
 
 namespace tessera {
@@ -218,71 +220,58 @@ TEST(ScoringPrint, APageEndsOnceARowPassesLine61) {
     EXPECT_EQ(second.size(), 4U + 2U);
 }
 
-struct Slot {
-    std::string date;
-    int code;
-    float score;
-};
-
-ProgressHeader HeaderWith(const std::vector<Slot>& slots) {
+// The log from "date code percent" entries, from slot 1; a date of "free" leaves a slot free.
+ProgressHeader Logged(const std::string& entries) {
     ProgressHeader header;
-    for (std::size_t i = 0; i < slots.size(); ++i) {
-        header.LogDates[i + 1] = slots[i].date;
-        header.LogCodes[i + 1] = static_cast<uint8_t>(slots[i].code);
-        header.LogScores[i + 1] = slots[i].score;
+    std::istringstream in(entries);
+    std::string date;
+    int code = 0;
+    float percent = 0;
+    for (size_t slot = 1; in >> date >> code >> percent; ++slot) {
+        header.LogDates[slot] = date == "free" ? std::string(10, '\0') : date;
+        header.LogCodes[slot] = static_cast<uint8_t>(code);
+        header.LogScores[slot] = percent / 100;
     }
     return header;
 }
 
 // Every slot filled: each row three takes, rising by a tenth, on dates in slot order.
-std::vector<Slot> AllSlots() {
-    std::vector<Slot> slots;
-    for (int i = 1; i <= LogSlotCount; ++i) {
-        const int row = (i - 1) % MonitorRowCount + 1;
-        const int take = (i - 1) / MonitorRowCount;
-        slots.push_back({"10-" + std::string(i < 10 ? "0" : "") + std::to_string(i) + "-2026", row,
-                         0.6F + 0.1F * static_cast<float>(take)});
-    }
-    return slots;
+std::string AllSlots() {
+    std::string entries;
+    for (int i = 1; i <= LogSlotCount; ++i)
+        entries += "10-" + std::string(i < 10 ? "0" : "") + std::to_string(i) + "-2026 " +
+                   std::to_string((i - 1) % MonitorRowCount + 1) + " " +
+                   std::to_string(60 + 10 * ((i - 1) / MonitorRowCount)) + " ";
+    return entries;
 }
 
 TEST(MonitorTable, TheLogFoldsIntoTheRowsCells) {
     const struct {
         const char* name;
-        std::vector<Slot> slots;
+        std::string slots;
         int row;
         std::string cells; // all six, joined by '|'
     } cases[] = {
-        {"empty log", {}, 1, "Title||| 0||"},
+        {"empty log", "", 1, "Title||| 0||"},
         {"best of three takes, dated by the later equal score",
-         {{"09-01-2026", 3, 0.70F}, {"09-08-2026", 3, 0.85F}, {"09-15-2026", 3, 0.85F}},
-         3,
+         "09-01-2026 3 70 09-08-2026 3 85 09-15-2026 3 85", 3,
          "Title|09-01-2026|70.0%| 3|85.0%|09-15-2026"},
-        {"a falling score keeps the first date",
-         {{"10-01-2026", 10, 0.80F}, {"10-20-2026", 10, 0.60F}},
-         10,
+        {"a falling score keeps the first date", "10-01-2026 10 80 10-20-2026 10 60", 10,
          "Title|10-01-2026|80.0%| 2|80.0%|10-01-2026"},
-        {"a first score of zero still shows",
-         {{"11-02-2026", 12, 0.0F}},
-         12,
+        {"a first score of zero still shows", "11-02-2026 12 0", 12,
          "Title|11-02-2026|0.0%| 1|0.0%|11-02-2026"},
-        {"other rows do not mix",
-         {{"09-01-2026", 2, 0.9F}, {"09-02-2026", 11, 0.5F}},
-         11,
+        {"other rows do not mix", "09-01-2026 2 90 09-02-2026 11 50", 11,
          "Title|09-02-2026|50.0%| 1|50.0%|09-02-2026"},
-        {"a free slot ends the log",
-         {{"09-01-2026", 4, 0.5F}, {std::string(10, '\0'), 4, 0.9F}, {"09-03-2026", 4, 0.95F}},
-         4,
+        {"a free slot ends the log", "09-01-2026 4 50 free 4 90 09-03-2026 4 95", 4,
          "Title|09-01-2026|50.0%| 1|50.0%|09-01-2026"},
         {"a code outside the table is passed over",
-         {{"09-01-2026", 13, 0.5F}, {"09-02-2026", 0, 0.6F}, {"09-03-2026", 5, 0.75F}},
-         5,
+         "09-01-2026 13 50 09-02-2026 0 60 09-03-2026 5 75", 5,
          "Title|09-03-2026|75.0%| 1|75.0%|09-03-2026"},
         {"all 36 slots are read to the last", AllSlots(), 12,
          "Title|10-12-2026|60.0%| 3|80.0%|10-36-2026"},
     };
     for (const auto& c : cases) {
-        const auto cells = MonitorCells(FoldProgressLog(HeaderWith(c.slots))[c.row], "Title");
+        const auto cells = MonitorCells(FoldProgressLog(Logged(c.slots))[c.row], "Title");
         std::string joined = cells[0];
         for (std::size_t column = 1; column < cells.size(); ++column)
             joined += "|" + cells[column];
@@ -291,10 +280,8 @@ TEST(MonitorTable, TheLogFoldsIntoTheRowsCells) {
 }
 
 TEST(MonitorChart, TakesInOrderAgainstThePassingGrade) {
-    const MonitorRows rows = FoldProgressLog(HeaderWith({{"09-01-2026", 3, 0.69F},
-                                                         {"09-02-2026", 1, 0.9F},
-                                                         {"09-08-2026", 3, 0.70F},
-                                                         {"09-15-2026", 3, 0.85F}}));
+    const MonitorRows rows =
+        FoldProgressLog(Logged("09-01-2026 3 69 09-02-2026 1 90 09-08-2026 3 70 09-15-2026 3 85"));
     const auto points = [](const ProgressChartData& chart) {
         std::string shown;
         for (const ChartPoint& point : chart.points)

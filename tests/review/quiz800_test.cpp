@@ -266,7 +266,7 @@ private Q_SLOTS:
         const int first = wrong(0);
         const int survivor = wrong(1);
         run(u"x"_s);
-        QCOMPARE(label("Label2")->textFormat(), Qt::PlainText); // "<C>" is not markup
+        QCOMPARE(label("Label2")->textFormat(), Qt::PlainText); // "<B>" is not markup
         QCOMPARE(f->sound.tones(), (std::vector<Tone>{{440, 200}}));
         quiz->Timer1_Timer(); // with the timer off the clocks stay blank
         QCOMPARE(text("Label8") + text("Label7"), u"Item Time:Elapsed Time:"_s);
@@ -438,7 +438,6 @@ private Q_SLOTS:
         open(3);
         QVERIFY(!menu.isEnabled());
         run(u"rk"_s);
-        QCOMPARE((QList<int>{f->state.TestPosition, f->state.TestFurthest}), (QList<int>{1, 1}));
         QVERIFY(menu.isEnabled()); // and refreshed
         QCOMPARE(Control<QRadioButton>(&menu, "Option1_0")->text(),
                  u"Resume Topic 3 &Review, All Items"_s);
