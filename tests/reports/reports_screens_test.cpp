@@ -265,8 +265,8 @@ private Q_SLOTS:
     }
 
     // Cancel prints nothing and leaves the focus where it was; a print keeps the selection and
-    // puts the focus on Done. The page heads, rows and totals of both cards are set out in the
-    // rules tests; here the rows come from the list in its order.
+    // puts the focus on Done. The row and totals texts are the rules tests'; here each card's page
+    // heads, and the rows from the list in its order.
     void printing_data() {
         QTest::addColumn<bool>("scoring");
         QTest::addColumn<QString>("page"); // %1 the totals, then the list's rows
@@ -325,7 +325,7 @@ private Q_SLOTS:
         const QString rule = QString(5, u' ') + QString(48, QChar(0x2014));
         const QString separator = QString(10, u' ') + QString(88, QChar(0x2014));
         const std::vector<QString> page = printer.pageText(1);
-        QCOMPARE(page.size(), std::size_t(4 + 3 + 12 + 11 + 1)); // and one page
+        QCOMPARE(page.size(), std::size_t(4 + 3 + 12 + 11 + 1));
         const QStringList top = {
             QString(),
             Line(u"6:Pat Doe"_s),
