@@ -155,7 +155,8 @@ private Q_SLOTS:
             // Keys on a letter button jump too; a letter without terms does nothing.
             {"open 8; press M; keys T; keys Q",
              Glossary + "Tterm 001 882|Command3_19|Meaning number 883.|Tterm 001|.xxx..x" + Tail},
-            {Find + "keys   mterm 003; key Return",
+            // Blanks around the words typed are dropped before the search.
+            {Find + "keys   mterm 003; key Space; key Return",
              Glossary + "Mterm 003 590|Text2|Meaning number 591.|Mterm 003|.--xxxx" + Tail},
             // Terms only: the whole list is searched once, then "Sorry!"; the definitions find
             // it, and from that entry on only after wrapping round.
