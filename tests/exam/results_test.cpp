@@ -124,6 +124,7 @@ TEST(ResultsPrint, HeadingRowsNoteAndSummaryWordForWordOnEachCopy) {
     printer.dialogAnswer = PrintChoice{2, false};
     ResultsPrint exam = Exam(3, 2);
     exam.fontName = "Courier New";
+    exam.userName = "\x8Aimon Doe"; // a Windows-1252 name: S with caron
     ASSERT_TRUE(PrintResults(printer, exam));
     EXPECT_TRUE(std::ranges::all_of(printer.lines, [](const PrintedLine& line) {
         return line.fontName == QStringLiteral("Courier New") && line.fontSize == 10;
@@ -141,7 +142,7 @@ TEST(ResultsPrint, HeadingRowsNoteAndSummaryWordForWordOnEachCopy) {
     // The heading down to the column heads is bold, and the summary's caption. Item 1 keyed B
     // answered D stands beside item 3 keyed D answered B; item 2, unanswered, shows neither.
     const QString expected = QStringLiteral(
-        "*     Screening Exam II Results|*     Pat Doe|"
+        "*     Screening Exam II Results|*     \u0160imon Doe|"
         "*     Thursday, November 19, 20261:30:00 PM|*|"
         "*          Correct     Your               Correct     Your     |"
         "*  Item    Answer      Answer     Item    Answer      Answer   | |"
