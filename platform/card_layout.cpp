@@ -2,15 +2,14 @@
 
 #include "platform/control_names.h"
 
+#include <QEvent>
 #include <QFontMetrics>
 #include <QGroupBox>
 #include <QLabel>
 #include <QListWidget>
+#include <QPainter>
 #include <QRadioButton>
 #include <QVBoxLayout>
-
-#include <QEvent>
-#include <QPainter>
 
 #include <algorithm>
 #include <cstring>
@@ -47,7 +46,7 @@ public:
         painter.setFont(m_label->font());
         painter.setPen(m_label->palette().color(m_label->foregroundRole()));
         const QFontMetrics metrics(m_label->font());
-        const int start = std::min(m_head.upperStart, m_head.lowerStart);
+        const int start = m_head.start();
         const int blank = metrics.horizontalAdvance(QLatin1Char(' '));
         painter.drawText((m_head.upperStart - start) * blank, metrics.ascent(),
                          QLatin1String(m_head.upper));
@@ -84,7 +83,7 @@ void AlignColumnHeads(QWidget* strip, std::span<QLabel* const> labels,
     const int blank = metrics.horizontalAdvance(QLatin1Char(' '));
     for (size_t i = 0; i < labels.size() && i < heads.size(); ++i) {
         const ColumnHead& head = heads[i];
-        const int start = std::min(head.upperStart, head.lowerStart);
+        const int start = head.start();
         const int width =
             std::max(head.upperStart - start + static_cast<int>(std::strlen(head.upper)),
                      head.lowerStart - start + static_cast<int>(std::strlen(head.lower)));

@@ -28,6 +28,9 @@ struct ColumnHead {
     const char* upper;
     int lowerStart;
     const char* lower;
+
+    // The first character either line takes, where the head's label stands.
+    int start() const { return upperStart < lowerStart ? upperStart : lowerStart; }
 };
 
 // The head's caption as given, upper and lower words as one; on screen the label shows its two
