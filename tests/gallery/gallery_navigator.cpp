@@ -1,6 +1,7 @@
 // The monitor spreadsheet with its chart: before any take on a display of 800 by 600, in
 // mid-course and with every slot of the log used on a wider one; and its printed page.
 
+#include "core/date_value.h"
 #include "core/progress_file.h"
 #include "reports/navigator.h"
 #include "tests/gallery/gallery.h"
@@ -16,7 +17,7 @@ namespace tessera {
 namespace {
 
 struct Take {
-    const char* date;
+    std::string date;
     int row;
     float score;
 };
@@ -37,22 +38,16 @@ const std::vector<Take> MidCourse = {
     {"11-04-2026", 3, 0.71F}, {"11-18-2026", 10, 0.68F}, {"11-19-2026", 9, 0.7F},
 };
 
-// Three takes of every row, most rising, a few falling back.
+// Three takes of every row, two or three days apart from August 3, most rising, a few falling back.
 std::vector<Take> FullLog() {
-    static const std::array<const char*, 36> dates = {
-        "08-03-2026", "08-05-2026", "08-10-2026", "08-12-2026", "08-17-2026", "08-19-2026",
-        "08-24-2026", "08-26-2026", "08-31-2026", "09-02-2026", "09-09-2026", "09-14-2026",
-        "09-16-2026", "09-21-2026", "09-23-2026", "09-28-2026", "09-30-2026", "10-05-2026",
-        "10-07-2026", "10-12-2026", "10-14-2026", "10-19-2026", "10-21-2026", "10-26-2026",
-        "10-28-2026", "11-02-2026", "11-04-2026", "11-09-2026", "11-11-2026", "11-16-2026",
-        "11-18-2026", "11-19-2026", "11-20-2026", "11-23-2026", "11-24-2026", "11-25-2026"};
     std::vector<Take> takes;
-    for (int i = 0; i < LogSlotCount; ++i) {
+    DateValue day = DateFromParts(2026, 8, 3);
+    for (int i = 0; i < LogSlotCount; ++i, day += 2 + i % 2) {
         const int row = i % MonitorRowCount + 1;
         const int round = i / MonitorRowCount;
         const float score = 0.58F + 0.01F * static_cast<float>((row * 7) % 11) +
                             (row % 5 == 0 && round == 2 ? -0.04F : 0.11F * round);
-        takes.push_back({dates[static_cast<std::size_t>(i)], row, score});
+        takes.push_back({DateText(day), row, score});
     }
     return takes;
 }

@@ -1,5 +1,5 @@
-// The reading screens as a candidate meets them: a discussion text, the glossary at a few
-// letters and with the find panel open, a help text, and the notebook.
+// The reading screens as a candidate meets them: a discussion text, the glossary at a letter
+// and with the find panel open, a help text, and the notebook with its find box.
 
 #include "core/new_notebook.h"
 #include "tests/gallery/gallery.h"
@@ -30,9 +30,6 @@ const GalleryEntry discussion("tools_viewing_discussion", [](GalleryScene& scene
     return new Viewing(scene.context);
 });
 
-const GalleryEntry glossaryA("tools_viewing_glossary_a", [](GalleryScene& scene) -> QWidget* {
-    return GlossaryAt(scene, 'A');
-});
 const GalleryEntry glossaryM("tools_viewing_glossary_m", [](GalleryScene& scene) -> QWidget* {
     return GlossaryAt(scene, 'M');
 });
@@ -50,12 +47,6 @@ const GalleryEntry help("tools_help_notebook_topic", [](GalleryScene& scene) -> 
     scene.loadDefaultCourse();
     scene.state.HelpTopic = 8;
     return new Help(scene.context);
-});
-
-const GalleryEntry notebook("tools_notebook", [](GalleryScene& scene) -> QWidget* {
-    scene.folder.write(scene.state.catalogue.NoteBookFileName,
-                       NewNoteBookText(scene.state.catalogue, "Dana Whitfield"));
-    return new NoteBook(scene.context);
 });
 
 const GalleryEntry notebookFind("tools_notebook_find", [](GalleryScene& scene) -> QWidget* {
