@@ -92,9 +92,8 @@ protected:
     void SetUp() override {
         FillCatalogue(state);
         std::tie(state.CurrentTopic, state.TestType, state.TestItemCount, state.TestPosition,
-                 state.ExamKind, state.ExamType, state.ExamItemCount, state.ExamPosition) =
-            std::tuple(3, 1, 2, 1, 2, 2, 2, 1);
-        state.TakeCounts[3] = 2;
+                 state.ExamKind, state.ExamType, state.ExamItemCount, state.ExamPosition,
+                 state.TakeCounts[3]) = std::tuple(3, 1, 2, 1, 2, 2, 2, 1, 2);
         state.TestItems = {0, 5, 6};
         state.ExamItems = {0, 11, 12};
         state.ExamKey = {0, 1, 2};
@@ -115,10 +114,11 @@ const std::string Starting = [] {
                  EncodeExam(ExamOfKind(2)), EncodeExam(ExamOfKind(3, 1))});
 }();
 
+// An operation, and the file it writes.
 struct Operation {
     const char* name;
     std::function<void(SessionState&)> run;
-    const char* file = ProgressFile; // the file it writes
+    const char* file = ProgressFile;
 };
 
 const LogEntry Logged{3, .75F};
@@ -137,12 +137,10 @@ const Operation Operations[] = {
     {"a journal replayed", [](S& s) { JournalReviewTest(s, Today), ReplayJournal(s, Today); }},
 };
 
+// The operation's own file before and after, and the progress file once start-up recovered it.
 struct Outcome {
-    std::string before{};   // the operation's own file before it ran
-    std::string progress{}; // after start-up recovered the progress file
-    std::string after{};    // the operation's own file then
-    int steps = 0;
-    int writes = 0;
+    std::string before{}, progress{}, after{};
+    int steps = 0, writes = 0;
 };
 
 // The operation run with the fault, the machine started again and start-up's recovery done.
@@ -221,7 +219,7 @@ TEST_F(ProgressFileTest, RecordsGoWhereTheSuspendedNumbersSay) {
     EXPECT_EQ(RecordsOf(file).back().substr(1, 10), "11-19-2026");
     std::tie(header.SuspendedTestRecord, header.SuspendedExamRecord, header.TakeCounts[3]) =
         std::tuple(0, 6, 2);
-    EXPECT_EQ(file.substr(0, RecordSize), RecordsOf(File({EncodeHeader(header)}))[0]);
+    EXPECT_EQ(file.substr(0, RecordSize), File({EncodeHeader(header)}));
     EXPECT_FALSE(folder.exists(NewProgressFile));
     // Past record 255 the header has no byte for the number: the test is saved and kept for this
     // run, and comes within reach again once a record before it goes.
