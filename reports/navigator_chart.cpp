@@ -86,14 +86,17 @@ void ProgressChart::paintEvent(QPaintEvent* /*event*/) {
     } else {
         drawTakes(painter, plot);
     }
-    // The passing grade is named at the right end of its line, over the line of takes.
+    // The passing grade is named in a key above the plot, at the right, where no take can stand.
     const QString passing = fromWindows1252(m_chart.passingLabel);
-    const double passingWidth = metrics.horizontalAdvance(passing) + 6;
-    const double labelY = m_chart.passingShare > 0.9 ? passY + 2 : passY - plot.line - 2;
-    const QRectF passingBox(plot.area.right() - passingWidth, labelY, passingWidth, plot.line);
-    painter.fillRect(passingBox, Qt::white);
+    const double passingWidth = metrics.horizontalAdvance(passing);
+    const double keyY = titleBox.bottom() + 4;
+    const QRectF passingBox(plot.area.right() - passingWidth, keyY, passingWidth, plot.line);
+    const double sampleY = passingBox.center().y();
+    painter.setPen(QPen(Faint, 1.5, Qt::DashLine));
+    painter.drawLine(QPointF(passingBox.left() - 26, sampleY),
+                     QPointF(passingBox.left() - 6, sampleY));
     painter.setPen(Qt::black);
-    painter.drawText(passingBox, Qt::AlignCenter, passing);
+    painter.drawText(passingBox, Qt::AlignRight | Qt::AlignVCenter, passing);
 }
 
 // Scores from 0 to 100% upwards, in quarters.
