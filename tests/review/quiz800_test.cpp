@@ -16,7 +16,6 @@
 
 #include <QFile>
 #include <QLabel>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
@@ -328,30 +327,6 @@ private Q_SLOTS:
         QCOMPARE(view(), u"All Items Review Test/Item 7 of 8  (Answer is C) | abcdwNBPi | 1 0 1 "
                          "100.0% 0 | 111"_s);
         QCOMPARE(f->screens.callsText(), "unload PictForm");
-    }
-
-    void aCleanRunEndsWithThePassedBoxAndALogEntry() {
-        open(2);
-        run(u"r"_s);
-        QCOMPARE(saved(), u"journal"_s); // written after every answer
-        run(u"nrnr"_s);
-        QCOMPARE(view(), u"<C> is the best choice. | abcdwDBPi | 3 0 3 100.0% 0 | 111"_s);
-        QCOMPARE(colour("Label2"), int(RightColour));
-        QCOMPARE(colour("Label6"), int(PassingColour));
-        QCOMPARE(quiz->findChild<QProgressBar*>()->value(), 100);
-        QVERIFY(label("HandShake")->isVisibleTo(quiz.get()));
-        run(u"nn"_s); // Cancel in the Finished box goes on, and Done asks again
-        QCOMPARE(view(), u"<C> is the best choice. | abcdwDBPi | 3 0 3 100.0% 0 | 111"_s);
-        QCOMPARE(saved(), u"journal"_s);
-        f->dialogs.answer(MessageAnswer::Ok);
-        run(u"n"_s);
-        QCOMPARE(f->dialogs.messages().size(), size_t{3});
-        QCOMPARE(box(), u"Finished: Congratulations! You passed this review test./You missed 0 "
-                        "questions. (!)"_s);
-        QCOMPARE(f->dialogs.messages().back().buttons, MessageButtons::OkCancel);
-        QVERIFY(!quiz->isVisible());
-        QCOMPARE((QList<int>{f->state.TakeCounts[2], f->state.TestPosition}), (QList<int>{1, 0}));
-        QCOMPARE(saved(), u"log 2:1 1 0 | 2 1 3 3 3 0 3 1 1 1 000000"_s);
     }
 
     // A first drill counts at the lower of seventy and the passing grade: 0.75 fails at 85.
