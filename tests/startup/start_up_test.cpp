@@ -181,11 +181,15 @@ const Case Cases[] = {
          Offer,
      "ready " + PatDoe + "/70/Courier New asked 0 marker() progress 940:70:0 backups 2"},
     {"a grade over a hundred without backups",
-     [](Start& s) { s.folder.write(Progress, HeaderFile(170)); }, "", "O",
+     [](Start& s) {
+         s.folder.write(Progress, HeaderFile(170));
+         s.printer.fonts = {QStringLiteral("Courier"), QStringLiteral("Terminal")};
+     },
+     "", "O",
      Damaged("ok") +
          "No good backup of it was found in the Backups folder. The program will use what "
          "it can read.\n",
-     "ready " + PatDoe + "/170/Courier New asked 0 marker() progress 940:170:0 backups 0"},
+     "ready " + PatDoe + "/170/Courier asked 0 marker() progress 940:170:0 backups 0"},
     {"a journal left by a crash is replayed",
      [](Start& s) {
          Earlier(s);
@@ -271,17 +275,6 @@ TEST(StartUp, FirstStartOfADayAndEveryRewriteKeepTheNewestTenBackups) {
     const std::vector<std::string> kept = s.backups();
     EXPECT_EQ(kept.front() + " .. " + kept.back() + " " + std::to_string(kept.size()),
               "TesseraConfig 2026-11-20 08-02-00.MS .. TesseraConfig 2026-11-20 08-11-00.MS 10");
-}
-
-TEST(PrintFont, TheLastOfTheFourFoundInTheJoinedNamesWins) {
-    const std::pair<QStringList, std::string> cases[] = {
-        {{QStringLiteral("Arial"), QStringLiteral("Times New Roman")}, ""},
-        {{QStringLiteral("Courier New"), QStringLiteral("Terminal")}, "Courier New"},
-        {{QStringLiteral("Courier"), QStringLiteral("MS LineDraw")}, "Courier"},
-        {{QStringLiteral("Terminal"), QStringLiteral("MS LineDraw")}, "MS LineDraw"},
-    };
-    for (const auto& [fonts, expected] : cases)
-        EXPECT_EQ(ChoosePrintFontName(fonts), expected) << fonts.join(u',').toStdString();
 }
 
 } // namespace

@@ -106,21 +106,8 @@ TEST(AlarmTime, ReadsTwelveAndTwentyFourHourTimes) {
     };
     for (const auto& [text, expected] : cases)
         EXPECT_EQ(ParseTimeOfDay(QString::fromLatin1(text)), expected) << text;
-}
-
-TEST(AlarmTime, WritesTimesThatReadBackAndAutoSetsTenMinutesARow) {
-    const QStringList written = {LongTimeText(at(14, 25, 30)),   LongTimeText(0),
-                                 LongTimeText(at(12, 0, 5)),     MediumTimeText(at(7, 30, 59)),
-                                 MediumTimeText(at(23, 5)),      AutoSetRowText(0),
-                                 AutoSetRowText(AutoSetRows - 1)};
-    EXPECT_EQ(written.join(u'|'), QStringLiteral("2:25:30 PM|12:00:00 AM|12:00:05 PM|07:30 AM|"
-                                                 "11:05 PM|10 min.|600 min."));
     for (int time = 0; time < SecondsPerDay; time += 61)
         ASSERT_EQ(ParseTimeOfDay(LongTimeText(time)), time);
-
-    const DateValue day = DateFromParts(2026, 11, 19);
-    EXPECT_EQ(AutoSetAlarmTime(day + at(14, 15, 30) / 86400.0, 0), at(14, 25, 30));
-    EXPECT_EQ(AutoSetAlarmTime(day + at(14, 15, 30) / 86400.0, 59), at(0, 15, 30));
 }
 
 } // namespace

@@ -183,15 +183,6 @@ private Q_SLOTS:
             QCOMPARE(Viewer().after(steps), expected);
     }
 
-    void viewerGlossaryBoxesGrowWithTheWindow() {
-        Viewer v;
-        v.after("open 8");
-        const QSize before(v.viewing->RichTextBox1->height(), v.viewing->RichTextBox2->height());
-        v.viewing->resize(v.viewing->width(), 2 * v.viewing->height()); // as maximising does
-        QVERIFY(v.viewing->RichTextBox1->height() > before.width() &&
-                v.viewing->RichTextBox2->height() > before.height());
-    }
-
     void notebookEditsAndSaves() {
         const std::pair<std::function<void(Notes&)>, std::string> cases[] = {
             {[](Notes& n) { CloseAndReopen(n, MessageAnswer::Yes); },
