@@ -36,16 +36,15 @@ std::vector<std::string> RecordsOf(const std::string& file) {
 }
 
 // A test of the topic and an exam of the kind, stopped at the given position.
-ReviewTestRecord TestOfTopic(int topic, int position = 0) {
-    ReviewTestRecord r;
-    std::tie(r.Topic, r.Position, r.ItemCount, r.TestType) = std::tuple(topic, position, 4, 1);
-    return r;
+ReviewTestRecord TestOfTopic(int topic, int16_t position = 0) {
+    return {
+        .Topic = static_cast<uint8_t>(topic), .Position = position, .ItemCount = 4, .TestType = 1};
 }
 
-ExamRecord ExamOfKind(int kind, int position = 0) {
-    ExamRecord e;
-    std::tie(e.Kind, e.Position, e.ItemCount, e.ExamType) = std::tuple(kind + 9, position, 3, kind);
-    return e;
+ExamRecord ExamOfKind(int kind, int16_t position = 0) {
+    const auto k = static_cast<uint8_t>(kind);
+    return {
+        .Kind = static_cast<uint8_t>(k + 9), .Position = position, .ItemCount = 3, .ExamType = k};
 }
 
 // A header as a first run leaves it, with the reserved tail and a flag byte of 2 that every
