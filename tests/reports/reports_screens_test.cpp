@@ -45,6 +45,7 @@ std::string Bytes(const RecordBytes& record) {
 // untimed and in order, exam II of November and a test of topic 1 of January. By text, January
 // comes first. The totals round at each row, a half to the even number: by the latest date,
 // exam I's 3.5 right answers give 4 and exam II's 2.5 then 6; the November test's 2.5 tries 2.
+// The review card's share is of all the items, not a mean of its rows' shares.
 std::vector<RecordBytes> MixedRecords() {
     ExamRecord custom = CardExam(12, 3, "01-05-2027", 0.0F, {1, 7});
     custom.Topics[2] = 1;
@@ -53,7 +54,7 @@ std::vector<RecordBytes> MixedRecords() {
     return {EncodeExam(CardExam(10, 1, "12-20-2026", 0.875F, {1, 2, 3, 9})),
             EncodeReviewTest(CardRecord(3, "11-20-2026", 0.5F, 1, {0, 2}, 12)), EncodeExam(custom),
             EncodeExam(CardExam(11, 2, "11-02-2026", 0.5F, {69, 6, 0, 2, 64}, 3)),
-            EncodeReviewTest(CardRecord(1, "01-05-2027", 0.5F, 1, {1, 0, 0, 0}))};
+            EncodeReviewTest(CardRecord(1, "01-05-2027", 0.25F, 1, {1, 0, 0, 0}))};
 }
 
 } // namespace
@@ -263,10 +264,10 @@ private Q_SLOTS:
                "Correct    Asked   Guesses  Ratio    Order    (h:m:s)\n"_s +
                    QString(82, u'-') +
                    u"\n  All Items      11-20-2026   50.0%      2        1      1.25     Yes     "
-                   "1:05:30\n  All Items      01-05-2027   50.0%      4        0      1.25     Yes"
+                   "1:05:30\n  All Items      01-05-2027   25.0%      4        0      1.25     Yes"
                    "     1:05:30\n"_s +
                    QString(17, u' ') + QString(65, u'-') +
-                   u"\n                  Total:      50.0%      6        1      1.17"
+                   u"\n                  Total:      33.3%      6        1      1.17"
                    "             2:11:00"_s;
     }
     void printing() {
