@@ -1,10 +1,8 @@
 #pragma once
-// Finished review tests and exams as the report cards read them from the progress file, and
-// the orders the cards sort them in.
+// Finished review tests and exams as the report cards read them, and the orders they sort in.
 
 #include "core/records.h"
 
-#include <array>
 #include <initializer_list>
 #include <string>
 #include <vector>
@@ -15,13 +13,12 @@ namespace tessera {
 // and returns how many there are.
 template <class Items, class Marks>
 int16_t FillPositions(Items& items, Marks& marks, std::initializer_list<int> given, int firstItem) {
-    size_t k = 0;
+    int16_t k = 0;
     for (int mark : given) {
-        ++k;
-        items[k] = static_cast<int16_t>(firstItem + static_cast<int>(k) - 1);
-        marks[k] = static_cast<uint8_t>(mark);
+        marks[++k] = static_cast<uint8_t>(mark);
+        items[k] = static_cast<int16_t>(firstItem + k - 1);
     }
-    return static_cast<int16_t>(k);
+    return k;
 }
 
 // A review test of a topic, of `type` 1 to 4, with the wrong tries given by position.
@@ -39,8 +36,7 @@ inline ReviewTestRecord CardRecord(int topic, const std::string& date, float sco
     return r;
 }
 
-// An exam of `kind` 10 to 12 and `type` 1 to 6; the answered and unsure counts follow the
-// answer codes given.
+// An exam of `kind` 10 to 12 and `type` 1 to 6, answered and unsure as its answer codes say.
 inline ExamRecord CardExam(int kind, int type, const std::string& date, float score,
                            std::initializer_list<int> codes, int firstItem = 1) {
     ExamRecord r;
@@ -59,22 +55,17 @@ inline ExamRecord CardExam(int kind, int type, const std::string& date, float sc
     return r;
 }
 
-// The rows' keys in order after a sort each way, a word of digits a way; a second sort of the
-// same way that moves a row shows after a '/'.
+// The rows' keys in order after a sort each way, a word of digits a way.
 template <class Row, class Sort>
 std::string SortedKeys(const std::vector<Row>& rows, std::initializer_list<Sort> sorts,
                        void (*sortRows)(std::vector<Row>&, Sort), int Row::*key) {
     std::string words;
     for (Sort sort : sorts) {
         std::vector<Row> sorted = rows;
-        std::array<std::string, 2> passes;
-        for (std::string& pass : passes) {
-            sortRows(sorted, sort);
-            for (const Row& row : sorted)
-                pass += std::to_string(row.*key);
-        }
-        words += (words.empty() ? "" : " ") + passes[0] +
-                 (passes[1] == passes[0] ? "" : "/" + passes[1]);
+        sortRows(sorted, sort);
+        words += words.empty() ? "" : " ";
+        for (const Row& row : sorted)
+            words += std::to_string(row.*key);
     }
     return words;
 }

@@ -1,18 +1,12 @@
-// The reports without their screens. The screening exam report card: which rows load, their
-// order, the "Include" choices, what a retake takes from a row, and where a printed page ends.
-// The monitor spreadsheet: the log folded into rows and cell texts, and the chart of a row.
+// The reports without their screens: the exam report card's rows, order, "Include" choices and
+// retakes; the monitor's log folded into rows and cells, and the chart of a row.
 
-#include "platform/card_print.h"
 #include "reports/navigator_chart_data.h"
 #include "reports/navigator_table.h"
-#include "reports/scoring_print.h"
 #include "reports/scoring_rows.h"
 #include "tests/reports/card_records.h"
-#include "tests/support/recording_printer.h"
 
 #include <gtest/gtest.h>
-
-#include <tuple>
 
 namespace tessera {
 namespace {
@@ -134,20 +128,6 @@ TEST(ScoringRows, ARetakeAsksTheChosenPositionsInTheirOrderAsANewExam) {
     }
 }
 
-// 53 rows bring the page to line 60 and the custom exam's three lines past line 61: the last row
-// and the totals go on after the heading "(cont.)".
-TEST(ScoringPrint, APageEndsOnceARowPassesLine61) {
-    const ScoringRow plain{CardExam(10, 1, "12-20-2026", 0.5F, {1, 6}), 1};
-    std::vector<ScoringRow> rows(53, plain);
-    rows.insert(rows.end(), {{CardExam(12, 3, "01-05-2027", 0.5F, {1, 6}), 2}, plain});
-    RecordingPrinter printer;
-    PrintCard(printer, ScoringPaper(rows, ""));
-    const std::vector<QString> second = printer.pageText(2);
-    EXPECT_EQ(printer.pageText(1).size(), 6U + 53U + 3U);
-    EXPECT_EQ(second[1].toStdString() + ", " + std::to_string(second.size()) + " lines",
-              "Screening Exam Report Card (cont.), 6 lines");
-}
-
 // One log over the edges: row 3 falls back after two equal bests, row 12 starts at zero, codes
 // 13 and 0 are passed over, and a free slot ends the log before row 4's take.
 TEST(MonitorTable, TheLogFoldsIntoTheRowsCellsAndTheChart) {
@@ -156,26 +136,20 @@ TEST(MonitorTable, TheLogFoldsIntoTheRowsCellsAndTheChart) {
                     "09-21-2026", "09-22-2026", "09-23-2026", std::string(10, 0), "09-25-2026"};
     log.LogCodes = {0, 3, 3, 3, 3, 13, 0, 12, 0, 4};
     log.LogScores = {0, 0.7F, 0.85F, 0.85F, 0.6F, 0.5F, 0.5F, 0, 0.9F, 0.9F};
-    const auto cells = [](const MonitorRow& row) {
-        std::string joined;
-        for (const std::string& cell : MonitorCells(row, "T"))
-            joined += cell + "|";
-        return joined;
-    };
     const MonitorRows rows = FoldProgressLog(log);
+    std::string cells; // rows 3, 12 and 4
+    for (int row : {3, 12, 4})
+        for (const std::string& cell : MonitorCells(rows[row], "T"))
+            cells += cell + "|";
     EXPECT_EQ(
-        cells(rows[3]) + " " + cells(rows[12]) + " " + cells(rows[4]),
-        "T|09-01-2026|70.0%| 4|85.0%|09-15-2026| T|09-23-2026|0.0%| 1|0.0%|09-23-2026| T||| 0|||");
+        cells,
+        "T|09-01-2026|70.0%| 4|85.0%|09-15-2026|T|09-23-2026|0.0%| 1|0.0%|09-23-2026|T||| 0|||");
     // The grade itself passes; a single take stands in the middle.
     std::string points;
     for (int row : {3, 12})
         for (const ChartPoint& point : ChartOfRow(rows[row], "T", 70).points)
             points += std::to_string(point.x).substr(0, 4) + (point.passing ? "+ " : "- ");
     EXPECT_EQ(points, "0.00+ 0.33+ 0.66+ 1.00- 0.50- ");
-    for (int i = 1; i <= LogSlotCount; ++i) // every slot taken: the last one counts too
-        std::tie(log.LogDates[i], log.LogCodes[i], log.LogScores[i]) =
-            std::tuple("10-01-2026", uint8_t{12}, static_cast<float>(i) / 100);
-    EXPECT_EQ(cells(FoldProgressLog(log)[12]), "T|10-01-2026|1.0%| 36|36.0%|10-01-2026|");
 }
 
 } // namespace
