@@ -85,8 +85,8 @@ TEST(ItemScoring, PanelTextsNumbersGaugeAndTheEnd) {
     EXPECT_EQ(std::tuple(DrillCounts(0.65F, 60), DrillCounts(0.69F, 70), LogsDrill(AllItemsTest, 2),
                          LogsDrill(AllItemsTest, 3) || LogsDrill(RetakeAllTest, 0)),
               std::tuple(true, false, true, false));
-    EXPECT_EQ(FinishedMessageText(true, 1, "/"),
-              "Congratulations! You passed this review test./You missed 1 question.");
+    EXPECT_EQ(FinishedMessageText(true, 2, "/"),
+              "Congratulations! You passed this review test./You missed 2 questions.");
 
     EXPECT_EQ(NumberForm(5) + NumberForm(0) + NumberForm(-3), " 5 0-3");
     // A half rounds up; the date part is not shown; seconds round.
