@@ -118,7 +118,9 @@ private Q_SLOTS:
         click(&exam, "Command1_8");
         f->dialogs.whileOpen({});
         QVERIFY(!ticking && timer->isActive());
-        f->clock.advanceSeconds(3 * 60 + 30);
+        f->clock.advanceSeconds(3 * 60);
+        QTRY_COMPARE(label(&exam, "Label1_1"), QStringLiteral("Time Remaining: 0:02:00"));
+        f->clock.advanceSeconds(30);
         QTRY_COMPARE(label(&exam, "Label1_1"), QStringLiteral("2-minute warning! 1:30"));
         f->clock.advanceSeconds(91);
         QTRY_COMPARE(label(&exam, "Label1_1"), QStringLiteral("Time has expired!"));
@@ -145,15 +147,23 @@ private Q_SLOTS:
         f->state.ExamScrambled = true;
         f->state.ExamItems = {0, 9, 2, 5};
         f->state.ExamAnswers = {0, 2, 3};
-        f->state.ExamUnsure[2] = 63;
-        f->state.ExamScore = 1.0f / 3.0f;
+        f->state.ExamUnsure = {0, 0, 63, 63}; // a mark without an answer does not count
+        f->state.ExamScore = 0.3f;
+        f->state.ExamElapsed = (3600 + 5 * 60 + 9) / 86400.0;
         Results results(f->context);
         results.show();
+        QString summary;
+        for (int i = 0; i < 6; ++i)
+            summary += label(&results, qPrintable(QStringLiteral("Label1_%1").arg(i))) + u'|';
+        QCOMPARE(summary, QStringLiteral("Answered         2|Not Answered     1|   Total         3|"
+                                         "Correct          1   33.3%|Unsure           1   33.3%|"
+                                         "Time Used     1:05:09|"));
         QVERIFY(Control<RichTextView>(&results, "RichTextBox1")->rightMargin() > 0); // Shape2
         QCOMPARE(results.windowTitle(), QStringLiteral("Custom Built Results, Item 1"));
         // Sorted, the list keeps the selected item: the third row now.
         click(&results, "Command1_0");
-        QCOMPARE(rows(&results, "List1").at(2), QStringLiteral("  3   B    B"));
+        QCOMPARE(rows(&results, "List1").join(u'|'),
+                 QStringLiteral("  1   B    C?|  2   A    |  3   B    B"));
         QCOMPARE(Control<QListWidget>(&results, "List1")->currentRow(), 2);
         QVERIFY(!enabled(&results, "Command1_0"));
         // The print is offered until one went out.
@@ -167,10 +177,17 @@ private Q_SLOTS:
         f->dialogs.answer(MessageAnswer::Ok);
         const ScreenCall unloaded{ScreenCallKind::Unload, ScreenName::Results};
         click(&results, "Command1_4");
-        QVERIFY(f->dialogs.messages().back().text.startsWith(QStringLiteral("Note: You can")));
+        QCOMPARE(f->dialogs.messages().back().text,
+                 QStringLiteral("Note: You can review the results of this test later using the "
+                                "report card.\r\nPress O.K. to stop viewing scoring results or "
+                                "Cancel to keep working."));
         QVERIFY(std::ranges::count(f->screens.calls(), unloaded) == 0);
         f->state.ExamPosition = 7;
+        f->state.ExamScore = 0.29f;
         click(&results, "Command1_4");
+        QVERIFY(f->dialogs.messages().back().text.startsWith(
+            QStringLiteral("Note: You scored less than 30% correct. Therefore, the results of "
+                           "this test have not been added to your report card.\r\n")));
         QCOMPARE(f->state.ExamPosition, int16_t(0));
         QCOMPARE(lastCall(), unloaded);
 

@@ -139,26 +139,18 @@ TEST(ExamSession, StepsMoveItemsBetweenTheListsMarkThemUnsureAndEndTheExam) {
         std::string steps;
         std::string shown;
     } cases[] = {
-        {5, 0, "", "Item 1 of 5 [  ] - >1,2,3,4,5* ABCDN.CFU 0%"},
-        {5, 0, "n", "Item 2 of 5 [  ]  1,>2,3,4,5* ABCDNPCFU 0% @Next"},
-        {5, 0, "nC", "Item 2 of 5 [  C]  1,>2,3,4,5* AB.DNPCFU 0% @Next"},
         {5, 0, "nCn", "Item 3 of 5 [  ] 2C 1,>3,4,5* ABCDNPBFU 20% @Next"},
-        {5, 0, "nCna0", "Item 2 of 5 [  C] >2C* 1,>3,4,5 AB.DN.BFU 20% @Next"},
         {5, 0, "nCna0A", "Item 2 of 5 [  A] >2A* 1,>3,4,5 .BCDN.BFU 20% @Next"},
         {5, 0, "nCnp", "Item 1 of 5 [  ] 2C >1,3,4,5* ABCDN.BFU 20% @Next"},
         {5, 0, "nCna0Ar3Dr0r3", "Item 5 of 5 [  D] >2A 1,3,4,>5* ABC..PBFU 20% @Previous"},
-        {5, 0, "AB", "Item 1 of 5 [  B] - >1,2,3,4,5* A.CDN.CFU 0% @Next"},
         {5, 0, "ABA", "Item 1 of 5 [  A?  (Unsure of Answer)] - >1,2,3,4,5* .BCDN.CFU 0% @Next"},
         {5, 0, "ABAu", "Item 1 of 5 [  A] - >1,2,3,4,5* .BCDN.CFU 0% @Next"},
         {5, 0, "ABAuCuu", "Item 1 of 5 [  C?   (marked unsure)] - >1,2,3,4,5* AB.DN.CFU 0% @Next"},
         {5, 0, "ABAuCuun", "Item 2 of 5 [  ] 1C? >2,3,4,5* ABCDN.BFU 20% @Next"},
         {5, 0, "ABAuCuunu",
          "Item 2 of 5 [    (Unsure of Answer)] 1C? >2,3,4,5* ABCDN.BFU 20% @Next"},
-        {1, 0, "", "Item 1 of 1 [  ] - >1* ABCDN.CFU 0%"},
-        {1, 0, "Bn", "Item 1 of 1 [  B] >1B* - A.CDN.BFU 100% @Next frame blinking"},
         {1, 0, "Bnb", "Item 1 of 1 [  B] >1B* - A.CDN.BFU 100% @Next frame blinking dark"},
         {2, 1, "", "Item 1 of 2 [  ] - >1,2*- ABCD..CFU 0%"},
-        {2, 1, "B", "Item 1 of 2 [  B] - >1,2*- A.CDN.CFU 0% @Next"},
         {2, 1, "Bn", "Item 1 of 2 [  B] - >1,2*- A.CD.CCFU 0% @Previous"},
         {2, 1, "BnC", "Item 1 of 2 [  C] - >1,2*- AB.DN.CFU 0% @Next"},
         {2, 1, "BnCnp", "Item 2 of 2 [  ] >1C- >2*- ABCD..BFU 50% @Text"},
@@ -177,36 +169,23 @@ TEST(ExamSession, RetakeKeepsItsItemsAndClearsTheAnswers) {
     Exam exam(3);
     SessionState& s = exam.state;
     s.ExamType = 4;
-    for (int p = 1; p <= 3; ++p) {
-        s.ExamItems[p] = static_cast<int16_t>(10 + p);
-        s.ExamAnswers[p] = s.ExamUnsure[p] = s.ExamAnswered[p] = s.ExamAnswerCounts[p] = 1;
-    }
+    s.ExamItems = {0, 11, 12, 13};
+    s.ExamAnswers = s.ExamUnsure = s.ExamAnswered = s.ExamAnswerCounts = {0, 1, 1, 1};
     exam.open();
-    std::string kept;
-    for (int p = 1; p <= 3; ++p)
-        kept += std::to_string(s.ExamItems[p]) + ":" +
-                std::to_string(s.ExamAnswers[p] + s.ExamUnsure[p] + s.ExamAnswered[p] +
-                               s.ExamAnswerCounts[p]) +
-                " ";
-    EXPECT_EQ(kept, "11:0 12:0 13:0 ");
-}
-
-TEST(ExamSession, KeysAnswerByTheirSourcesRules) {
-    Exam exam;
-    ExamSession& s = exam.open();
-    EXPECT_EQ(s.answerForKey('b', KeySource::Text), 1);
-    EXPECT_EQ(s.answerForKey('E', KeySource::Button), -1);
-    s.pressAnswer(1);
-    EXPECT_EQ(s.answerForKey('B', KeySource::Button), -1); // its button is disabled
-    EXPECT_EQ(s.answerForKey('B', KeySource::List), 1);    // the list looks at "A" only
-    s.pressAnswer(0);
-    EXPECT_EQ(s.answerForKey('b', KeySource::List), -1);
+    EXPECT_EQ(std::tuple(s.ExamItems[1], s.ExamItems[3], s.ExamAnswers[1], s.ExamUnsure[2],
+                         s.ExamAnswered[3], s.ExamAnswerCounts[3]),
+              std::tuple(11, 13, 0, 0, 0, 0));
 }
 
 TEST(ExamSession, FinishedAsksWithTheRemainingCountAndCancelStopsTheClock) {
     Exam exam;
     ExamSession& s = exam.open();
     Play(s, "AnB"); // the B not committed: still counted as unanswered
+    // A key answers when its button is enabled; on a list, when A's is.
+    EXPECT_EQ(
+        std::tuple(s.answerForKey('b', KeySource::Text), s.answerForKey('E', KeySource::Button),
+                   s.answerForKey('c', KeySource::Button), s.answerForKey('B', KeySource::List)),
+        std::tuple(-1, -1, 2, 1));
     exam.dialogs.answer(MessageAnswer::Cancel);
     exam.dialogs.answer(MessageAnswer::Ok);
     exam.dialogs.whileOpen([&exam] { exam.clock.advanceSeconds(30); });
@@ -228,18 +207,6 @@ TEST(ExamSession, FinishedAsksWithTheRemainingCountAndCancelStopsTheClock) {
     EXPECT_EQ(exam.state.ExamPosition, 2);
 }
 
-// The screen test runs the clock out on a shown exam; here the readings at the edges.
-TEST(ExamSession, ClockReadsHoursWarnsUnderTwoMinutes) {
-    std::string read;
-    for (const auto& [minutes, elapsed, since] :
-         {std::tuple{195, 0.0, 0.0}, {10, 0.0, 8.0 / 1440}, {10, 3.0 / 1440, 5.5 / 1440}}) {
-        const ExamClockReading r = ReadExamClock(minutes, elapsed, since);
-        read += r.label + (r.warning ? " warning " : " ") + std::to_string(r.minutesLeft) + "|";
-    }
-    EXPECT_EQ(read, "Time Remaining: 3:15:00 195|Time Remaining: 0:02:00 2|2-minute warning! 1:30 "
-                    "warning 1|");
-}
-
 TEST(ExamEnd, NothingCommittedLeavesNoRecordAndNoResults) {
     Exam e;
     e.open().pressAnswer(0); // answered, never committed
@@ -248,27 +215,22 @@ TEST(ExamEnd, NothingCommittedLeavesNoRecordAndNoResults) {
 }
 
 // The log entry and the take go with the record: a save that fails files none of them, and the
-// exam finished again files each once. An answer not committed with Next counts as unanswered
-// and is gone after the save.
+// exam finished again files each once.
 TEST(ExamEnd, AFailedSaveFilesNeitherLogNorTakeUntilTheExamIsFinishedAgain) {
     Exam e(10);
     e.open();
     e.Answer(8, 0);
-    e.session->pressAnswer(e.state.ExamKey[e.state.ExamPosition] - 1);
     ExamEndOutcome end;
     {
         FaultyFiles full(FaultyFiles::Fault::DiskFull, 1);
         end = e.Close(true);
     }
-    EXPECT_TRUE(e.dialogs.messages()[0].text.startsWith(QStringLiteral("You failed to answer 2 ")));
     EXPECT_EQ(e.Filed(end) + std::to_string(e.state.TakeCounts[10]),
               "|1 records, 0 exam|log 0 0|takes 0|suspended 0 0|1 10");
     end = EndExam(e.state, true, 8, e.clock.now(), e.dialogs, {});
     EXPECT_EQ(e.Filed(end) + std::to_string(e.state.TakeCounts[10]),
               "saved results|2 records, 1 exam|log 10 0|takes 1|suspended 0 0|1 11");
     EXPECT_FLOAT_EQ(ReadProgressHeader().LogScores[1], 0.8f);
-    EXPECT_FLOAT_EQ(e.state.ExamScore, 0.8f);
-    EXPECT_EQ(e.state.ExamAnswers[9], 0);
 }
 
 TEST(ExamEnd, BelowThirtyPercentIsRemovedButLogged) {
@@ -293,20 +255,15 @@ TEST(ExamEnd, BrokenOffResumesInANewRun) {
     e.Answer(2, 1);
     e.clock.advanceSeconds(90);
     EXPECT_EQ(e.Filed(e.Close(false)), "saved|2 records, 1 exam|log 0 0|takes 0|suspended 2 0|1 0");
-    SessionState next;
-    Exam::NewState(next);
-    RestoreSuspended(next);
-    ExamSession resumed(next, e.clock, e.random);
-    resumed.open();
-    EXPECT_EQ(resumed.list(AnsweredList).rows() * 10 + next.ExamPosition, 34);
+    e.state = SessionState{};
+    Exam::NewState(e.state);
+    RestoreSuspended(e.state);
+    EXPECT_EQ(e.open().list(AnsweredList).rows() * 10 + e.state.ExamPosition, 34);
     e.clock.advanceSeconds(30);
-    e.dialogs.answer(MessageAnswer::Ok);
-    ASSERT_TRUE(resumed.pressFinished(e.dialogs));
-    resumed.beginClosing();
-    const ExamEndOutcome end = EndExam(next, true, 3, e.clock.now(), e.dialogs, {});
-    EXPECT_EQ(e.Filed(end), "saved results|2 records, 1 exam|log 10 0|takes 0|suspended 0 0|1 1");
-    EXPECT_FLOAT_EQ(next.ExamScore, 2.0f / 6.0f);
-    EXPECT_NEAR(next.ExamElapsed * 86400.0, 120, 1e-2);
+    EXPECT_EQ(e.Filed(e.Close(true)),
+              "saved results|2 records, 1 exam|log 10 0|takes 0|suspended 0 0|2 1");
+    EXPECT_FLOAT_EQ(e.state.ExamScore, 2.0f / 6.0f);
+    EXPECT_NEAR(e.state.ExamElapsed * 86400.0, 120, 1e-2);
 }
 
 TEST(EndRule, KeepsFromThirtyPercentAndCountsAtTheLowerOfSeventyAndThePassingGrade) {
@@ -314,10 +271,9 @@ TEST(EndRule, KeepsFromThirtyPercentAndCountsAtTheLowerOfSeventyAndThePassingGra
         float score;
         int grade, type, before;
         const char* plan; // counted, removed, logged
-    } cases[] = {{0.70f, 90, 1, 0, "c l"},       {0.69f, 90, 1, 0, "  l"}, {0.60f, 60, 3, 1, "c l"},
-                 {0.59f, 60, 3, 1, "  l"},       {0.90f, 70, 4, 2, "c l"}, {0.90f, 70, 5, 0, "   "},
-                 {0.90f, 70, 1, 3, "  l"},       {0.20f, 0, 1, 0, " rl"},  {0.3f, 70, 1, 0, "  l"},
-                 {20.0f / 67.0f, 0, 2, 0, " rl"}};
+    } cases[] = {{0.70f, 90, 1, 0, "c l"}, {0.69f, 90, 1, 0, "  l"}, {0.60f, 60, 3, 1, "c l"},
+                 {0.59f, 60, 3, 1, "  l"}, {0.90f, 70, 4, 2, "c l"}, {0.90f, 70, 5, 0, "   "},
+                 {0.90f, 70, 1, 3, "  l"}, {0.3f, 70, 1, 0, "  l"}};
     for (const auto& c : cases) {
         const ExamEndPlan plan = PlanExamEnd(c.score, c.type, c.before, c.grade);
         EXPECT_EQ(std::string(plan.countTake ? "c" : " ") + (plan.remove ? "r" : " ") +

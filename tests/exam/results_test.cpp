@@ -1,11 +1,8 @@
-// Results: the figures, the sort into running order, the note of "&Done", and the printed exam
-// (which items stand on which page and column, each page's heading, the note, the summary).
+// The printed results: which items stand on which page and column, each page's heading, the
+// note, the summary.
 
-#include "exam/exam_format.h"
 #include "exam/results_print.h"
-#include "exam/results_summary.h"
 #include "tests/support/recording_printer.h"
-#include "tests/support/small_course.h"
 
 #include <gtest/gtest.h>
 
@@ -13,45 +10,6 @@
 
 namespace tessera {
 namespace {
-
-TEST(ResultsSummary, CountsLabelsRowsAndTheSortOfAFourItemExam) {
-    SessionState state;
-    FillSmallCourse(state);
-    state.ExamKind = 3;
-    state.ExamItemCount = 4;
-    state.ExamItems = {0, 8, 2, 4, 6}; // keys A B D B
-    state.ExamAnswers = {0, 1, 2, 0, 2};
-    state.ExamUnsure = {0, 0, 63, 63, 0}; // a mark without an answer does not count
-    state.ExamElapsed = (3600 + 5 * 60 + 9) / 86400.0;
-    const ResultsTally tally = CountResults(state);
-    EXPECT_EQ(std::tuple(tally.answered, tally.unsure, tally.missed), std::tuple(3, 1, 1));
-    std::string lines;
-    for (const std::string& line : SummaryLines(tally, 4, state.ExamElapsed))
-        lines += line + "|";
-    EXPECT_EQ(lines,
-              "Answered         3|Not Answered     1|   Total         4|"
-              "Correct          3   75.0%|Unsure           1   25.0%|Time Used     1:05:09|");
-    EXPECT_EQ(ResultRowText(3, 4, 0, false), "  3   D    ");
-    EXPECT_EQ(ResultRowText(12, 2, 1, true), " 12   B    A?");
-
-    SortResults(state); // each item keeps its answer, key and mark
-    std::string sorted;
-    for (int p = 1; p <= 4; ++p)
-        sorted += std::to_string(state.ExamItems[p]) + ":" + std::to_string(state.ExamAnswers[p]) +
-                  std::to_string(state.ExamKey[p]) + std::to_string(state.ExamUnsure[p]) + " ";
-    EXPECT_EQ(sorted, "2:2263 4:0463 6:220 8:110 ");
-}
-
-TEST(ResultsSummary, DoneNoteFollowsTheRuleOfThirty) {
-    EXPECT_EQ(DoneQuestion(3.0f / 10.0f, "\r\n"),
-              "Note: You can review the results of this test later using the report card."
-              "\r\nPress O.K. to stop viewing scoring results or Cancel to keep working.");
-    EXPECT_TRUE(DoneQuestion(20.0f / 67.0f, "\r\n")
-                    .starts_with("Note: You scored less than 30% correct. Therefore, the "
-                                 "results of this test have not been added to your report "
-                                 "card.\r\n"));
-    EXPECT_EQ(ShortShareText(0.0) + ShortShareText(0.05) + ShareText(0.0), ".0%5.0%0.0%");
-}
 
 // count items; every item answered unless a multiple of skipEvery; every fifth unsure.
 ResultsPrint Exam(int count, int skipEvery = 0) {
@@ -99,11 +57,9 @@ TEST(ResultsPrint, PutsEachItemOnItsPageAndColumn) {
         int skipEvery;
         std::string layout;
     } cases[] = {
-        {1, 0, "1 1/0..1/0 summary"},
         {7, 3, "4 1/5..4/0 note summary"}, // an odd count leaves the last right column empty
         {110, 0, "55 1/56..55/110 | 0 cont summary"},
         {111, 0, "55 1/56..55/110 | 1 111/0..111/0 cont summary"},
-        {150, 0, "55 1/56..55/110 | 20 111/131..130/150 cont summary"},
         {300, 7,
          "55 1/56..55/110 | 55 111/166..165/220 cont | 40 221/261..260/300 cont note "
          "summary"},
