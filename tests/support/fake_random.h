@@ -12,8 +12,18 @@ namespace tessera {
 
 class FakeRandom final : public Random {
 public:
-    double next() override;
-    void seed(uint32_t value) override;
+    double next() override {
+        ++m_calls;
+        if (m_script.empty())
+            return static_cast<double>(m_engine()) / 4294967296.0;
+        const double value = m_script.front();
+        m_script.pop_front();
+        return value;
+    }
+    void seed(uint32_t value) override {
+        m_seeds.push_back(value);
+        m_engine.seed(value);
+    }
 
     // Values that the next calls return, in order, before the sequence takes over.
     void script(std::initializer_list<double> values) { m_script.insert(m_script.end(), values); }
