@@ -26,9 +26,6 @@ struct GalleryScene : ScreenFixture {
     // The default course compiled from its source and cut as start-up would; the made-up
     // full-size course where the source does not compile.
     void loadDefaultCourse();
-    // The default course loaded and an All Items test of the topic set up in running order,
-    // standing at the given position.
-    void setUpReviewTest(int topic, int position);
 };
 
 // Builds the screen to render; the gallery owns and shows it. Nothing means the entry failed.

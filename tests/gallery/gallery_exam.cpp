@@ -44,19 +44,6 @@ const GalleryEntry authorBuilder("exam_builder_author_prepared", [](GalleryScene
     return new ExamSet(scene.context);
 });
 
-const GalleryEntry customBuilder("exam_builder_custom", [](GalleryScene& scene) {
-    scene.loadDefaultCourse();
-    SessionState& s = scene.state;
-    s.TakeCounts[10] = 3;
-    s.TakeCounts[11] = 3;
-    s.ExamKind = 3;
-    s.ExamItemCount = 60;
-    s.ExamMinutes = 90;
-    s.ExamStructured = 1;
-    s.ExamTopics[2] = s.ExamTopics[8] = false;
-    return new ExamSet(scene.context);
-});
-
 const GalleryEntry traditional("exam_test_traditional", [](GalleryScene& scene) -> QWidget* {
     ExamTest* exam = CustomExam(scene, 0);
     // Items 1 to 5 answered, the third one unsure; item 6 passed over; item 7 on screen with
@@ -86,15 +73,15 @@ const GalleryEntry structured("exam_test_structured", [](GalleryScene& scene) ->
     return exam;
 });
 
-// A suspended exam resumed with little time left: the clock reads at once on opening.
-ExamTest* Resumed(GalleryScene& scene, double minutesUsed) {
+// A suspended exam resumed after its time ran out: the clock reads at once on opening.
+const GalleryEntry expired("exam_test_time_expired", [](GalleryScene& scene) -> QWidget* {
     scene.loadDefaultCourse();
     SessionState& s = scene.state;
     s.ExamKind = s.ExamType = 2;
     s.ExamItemCount = std::min<int16_t>(s.content.ItemCounts[2][2], 150);
     s.ExamMinutes = 195;
     s.ExamPosition = 12;
-    s.ExamElapsed = minutesUsed / 1440.0;
+    s.ExamElapsed = 195.1 / 1440.0;
     const int base = s.content.ItemCounts[1][2];
     for (int p = 1; p <= s.ExamItemCount; ++p) {
         s.ExamItems[p] = static_cast<int16_t>(base + p);
@@ -102,13 +89,7 @@ ExamTest* Resumed(GalleryScene& scene, double minutesUsed) {
         s.ExamUnsure[p] = p % 17 == 0 ? 63 : 0;
     }
     return new ExamTest(scene.context);
-}
-
-const GalleryEntry warning("exam_test_two_minute_warning",
-                           [](GalleryScene& scene) -> QWidget* { return Resumed(scene, 193.5); });
-
-const GalleryEntry expired("exam_test_time_expired",
-                           [](GalleryScene& scene) -> QWidget* { return Resumed(scene, 195.1); });
+});
 
 // A finished custom exam of the given length: mostly right, every fifth wrong, every ninth left
 // unanswered, some marked unsure.

@@ -3,7 +3,12 @@
 // under a dark palette; another argument limits the run to the entries whose names contain it.
 
 #include "tests/gallery/gallery.h"
+
+#include "core/content_file.h"
+#include "course/compiler/content_writer.h"
+#include "course/compiler/course_source.h"
 #include "tests/gallery/gallery_checks.h"
+#include "tests/support/full_course_generator.h"
 
 #include <QApplication>
 #include <QDir>
@@ -15,6 +20,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <filesystem>
 #include <map>
 #include <memory>
 
@@ -83,6 +89,16 @@ bool render(const QString& name, const GalleryBuild& build, const QDir& output, 
 }
 
 } // namespace
+
+void GalleryScene::loadDefaultCourse() {
+    std::vector<course::SourceError> errors;
+    const course::Course source =
+        course::ReadCourse(std::filesystem::path(TESSERA_SOURCE_ROOT) / "course", errors);
+    std::string file = errors.empty() ? course::WriteContent(source, errors) : std::string();
+    if (!errors.empty() || file.size() < 2)
+        file = FullCourseContent();
+    CutContent(std::string_view(file.data(), file.size() - 1), state.catalogue, state.content);
+}
 
 QString GalleryFolder() {
     return folder();

@@ -15,8 +15,7 @@ const std::string UserName = "Pat Doe" + std::string(23, ' ');
 ButtonMenu* navigation(GalleryScene& scene, int option) {
     scene.state.UserName = UserName;
     auto* menu = new ButtonMenu(scene.context);
-    if (option >= 0)
-        menu->findChild<QRadioButton*>(QStringLiteral("Option1_%1").arg(option))->click();
+    menu->findChild<QRadioButton*>(QStringLiteral("Option1_%1").arg(option))->click();
     return menu;
 }
 
@@ -27,9 +26,6 @@ const GalleryEntry title("startup_title_screen", [](GalleryScene& scene) -> QWid
     auto* screen = new Pubdat(scene.context);
     return scene.screens.programEnded() ? nullptr : screen;
 });
-
-const GalleryEntry firstRun("startup_navigation_first_run",
-                            [](GalleryScene& scene) -> QWidget* { return navigation(scene, -1); });
 
 const GalleryEntry midCourse("startup_navigation_mid_course", [](GalleryScene& scene) -> QWidget* {
     const std::array<int16_t, 10> drills = {0, 3, 2, 1, 1, 0, 2, 3, 0, 1};

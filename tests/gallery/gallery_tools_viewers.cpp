@@ -16,26 +16,11 @@ namespace tessera {
 
 namespace {
 
-Viewing* GlossaryAt(GalleryScene& scene, char letter) {
+const GalleryEntry glossaryFind("tools_viewing_glossary_find", [](GalleryScene& scene) -> QWidget* {
     scene.loadDefaultCourse();
     scene.state.ViewerSection = Viewing::GlossarySection;
     auto* viewing = new Viewing(scene.context);
-    viewing->Command3[letter - 'A']->click();
-    return viewing;
-}
-
-const GalleryEntry discussion("tools_viewing_discussion", [](GalleryScene& scene) -> QWidget* {
-    scene.loadDefaultCourse();
-    scene.state.ViewerSection = 2;
-    return new Viewing(scene.context);
-});
-
-const GalleryEntry glossaryM("tools_viewing_glossary_m", [](GalleryScene& scene) -> QWidget* {
-    return GlossaryAt(scene, 'M');
-});
-
-const GalleryEntry glossaryFind("tools_viewing_glossary_find", [](GalleryScene& scene) -> QWidget* {
-    Viewing* viewing = GlossaryAt(scene, 'T');
+    viewing->Command3['T' - 'A']->click();
     viewing->Command1[6]->click();
     viewing->Option1[2]->setChecked(true);
     viewing->Text2->setText(QStringLiteral("escrow"));
