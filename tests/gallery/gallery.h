@@ -21,6 +21,8 @@ class QWidget;
 
 namespace tessera {
 
+class Printer;
+
 // What an entry builds its screen from: the screen fixture, on which every screen is available.
 struct GalleryScene : ScreenFixture {
     // The default course compiled from its source and cut as start-up would; the made-up
@@ -35,8 +37,20 @@ struct GalleryEntry {
     GalleryEntry(const char* name, GalleryBuild build);
 };
 
-// The folder of this run's look, where its pictures and printed pages go; each look has its
-// own, so that the looks can render at the same time.
-QString GalleryFolder();
+// The scene's shared state and doubles with a real printer in place of the recording one, so
+// that a screen's own print command reaches paper.
+struct PrintingContext {
+    PrintingContext(GalleryScene& scene, Printer& printer)
+        : services{scene.dialogs, scene.clock, scene.random, scene.sound, printer},
+          context{scene.state, services, scene.screens} {}
+
+    Services services;
+    ScreenContext context;
+};
+
+// Printed output: the print command run through the real printer's PDF path, its first page
+// turned into a picture by pdftoppm and shown as the entry's screen; the whole PDF stays beside
+// the pictures as <name>.pdf. Nothing when the PDF or its picture could not be made.
+QWidget* PrintedFirstPage(const QString& name, const std::function<void(Printer&)>& print);
 
 } // namespace tessera

@@ -9,6 +9,7 @@ class QWidget;
 
 namespace tessera {
 
+// The looks in the order the command line names them: "plain", "scale2", "dark".
 enum class GalleryLook { Plain, Scale2, Dark };
 
 // The faults found on a shown screen, each a line naming the control.

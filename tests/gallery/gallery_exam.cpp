@@ -1,13 +1,12 @@
-// The screening exam screens in the states a candidate meets them: the builder for an
-// author-prepared and a custom exam, the exam in both approaches with items answered, unsure
-// and remaining, the two-minute warning, time expired, and the results.
+// The screening exam screens in the states a candidate meets them: the builder with exams in
+// their drills, the exam in both approaches with items answered, unsure and remaining, the exam
+// whose time ran out, and the results with the first page of their print.
 
 #include "exam/exam_items.h"
 #include "exam/exam_set.h"
 #include "exam/exam_test.h"
 #include "exam/results.h"
 #include "tests/gallery/gallery.h"
-#include "tests/gallery/gallery_print.h"
 
 #include <QListWidget>
 #include <QPushButton>
@@ -18,12 +17,9 @@ namespace tessera {
 
 namespace {
 
-void Press(QWidget* screen, int index) {
-    screen->findChild<QPushButton*>(QStringLiteral("Command1_%1").arg(index))->click();
-}
-
-// A custom exam of 20 items from the first four topics, traditional, half an hour.
-ExamTest* CustomExam(GalleryScene& scene, int structured) {
+// A custom exam of 20 items from the first four topics, half an hour, driven by its buttons:
+// 0 to 3 the answers, 5 Next, 6 Previous, 10 Unsure.
+ExamTest* CustomExam(GalleryScene& scene, int structured, std::initializer_list<int> presses) {
     scene.loadDefaultCourse();
     SessionState& s = scene.state;
     s.ExamKind = s.ExamType = 3;
@@ -31,10 +27,11 @@ ExamTest* CustomExam(GalleryScene& scene, int structured) {
     s.ExamMinutes = 30;
     s.ExamStructured = static_cast<int16_t>(structured);
     s.ExamTopics.fill(false);
-    for (int t = 1; t <= 4; ++t) {
-        s.ExamTopics[t] = true;
-    }
-    return new ExamTest(scene.context);
+    std::fill_n(s.ExamTopics.begin() + 1, 4, true);
+    auto* exam = new ExamTest(scene.context);
+    for (int index : presses)
+        Control<QPushButton>(exam, QStringLiteral("Command1_%1").arg(index))->click();
+    return exam;
 }
 
 const GalleryEntry authorBuilder("exam_builder_author_prepared", [](GalleryScene& scene) {
@@ -44,33 +41,16 @@ const GalleryEntry authorBuilder("exam_builder_author_prepared", [](GalleryScene
     return new ExamSet(scene.context);
 });
 
+// Items 1 to 5 answered, the third one unsure; item 6 passed over; item 7 on screen with an
+// answer not yet committed.
 const GalleryEntry traditional("exam_test_traditional", [](GalleryScene& scene) -> QWidget* {
-    ExamTest* exam = CustomExam(scene, 0);
-    // Items 1 to 5 answered, the third one unsure; item 6 passed over; item 7 on screen with
-    // an answer not yet committed.
-    for (int answer : {1, 3, 0, 2, 1}) {
-        Press(exam, answer);
-        if (scene.state.ExamPosition == 3) {
-            Press(exam, 10);
-        }
-        Press(exam, 5);
-    }
-    Press(exam, 5); // item 6 passed over
-    Press(exam, 2);
-    return exam;
+    return CustomExam(scene, 0, {1, 5, 3, 5, 0, 10, 5, 2, 5, 1, 5, 5, 2});
 });
 
+// Three items answered and gone back to in turn; on the fourth a third answer marks the item
+// unsure by itself.
 const GalleryEntry structured("exam_test_structured", [](GalleryScene& scene) -> QWidget* {
-    ExamTest* exam = CustomExam(scene, 1);
-    for (int answer : {0, 2, 3}) {
-        Press(exam, answer);
-        Press(exam, 5);
-        Press(exam, 6);
-    }
-    Press(exam, 1);
-    Press(exam, 1);
-    Press(exam, 3); // a third answer marks the item unsure by itself
-    return exam;
+    return CustomExam(scene, 1, {0, 5, 6, 2, 5, 6, 3, 5, 6, 1, 1, 3});
 });
 
 // A suspended exam resumed after its time ran out: the clock reads at once on opening.
@@ -91,9 +71,10 @@ const GalleryEntry expired("exam_test_time_expired", [](GalleryScene& scene) -> 
     return new ExamTest(scene.context);
 });
 
-// A finished custom exam of the given length: mostly right, every fifth wrong, every ninth left
+// A finished custom exam of 150 items: mostly right, every fifth wrong, every ninth left
 // unanswered, some marked unsure.
-void FinishExam(GalleryScene& scene, int count) {
+void FinishExam(GalleryScene& scene) {
+    const int count = 150;
     scene.loadDefaultCourse();
     SessionState& s = scene.state;
     s.UserName = "Pat Doe";
@@ -114,19 +95,19 @@ void FinishExam(GalleryScene& scene, int count) {
 }
 
 const GalleryEntry results("exam_results", [](GalleryScene& scene) -> QWidget* {
-    FinishExam(scene, 40);
+    FinishExam(scene);
     auto* screen = new Results(scene.context);
-    screen->findChild<QListWidget*>(QStringLiteral("List1"))->setCurrentRow(4);
+    Control<QListWidget>(screen, "List1")->setCurrentRow(4);
     return screen;
 });
 
-// The first page of a 150-item exam: 110 items in two columns.
+// The first page of its print: 110 items in two columns.
 const GalleryEntry printedResults("exam_results_printed", [](GalleryScene& scene) {
-    FinishExam(scene, 150);
+    FinishExam(scene);
     return PrintedFirstPage(QStringLiteral("exam_results_printed"), [&scene](Printer& printer) {
         PrintingContext paper(scene, printer);
         Results results(paper.context);
-        results.findChild<QPushButton*>(QStringLiteral("Command1_1"))->click();
+        Control<QPushButton>(&results, "Command1_1")->click();
     });
 });
 

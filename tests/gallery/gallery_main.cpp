@@ -7,13 +7,16 @@
 #include "core/content_file.h"
 #include "course/compiler/content_writer.h"
 #include "course/compiler/course_source.h"
+#include "platform/system_printer.h"
 #include "tests/gallery/gallery_checks.h"
 #include "tests/support/full_course_generator.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QLabel>
 #include <QPalette>
 #include <QPixmap>
+#include <QProcess>
 #include <QStyleFactory>
 #include <QTest>
 #include <QWidget>
@@ -42,53 +45,84 @@ std::map<QString, GalleryBuild>& entries() {
 void UseDarkPalette() {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QPalette dark;
-    const QColor window(45, 45, 48);
-    const QColor base(30, 30, 32);
-    const QColor text(230, 230, 230);
-    dark.setColor(QPalette::Window, window);
-    dark.setColor(QPalette::WindowText, text);
-    dark.setColor(QPalette::Base, base);
-    dark.setColor(QPalette::AlternateBase, window);
-    dark.setColor(QPalette::Text, text);
-    dark.setColor(QPalette::Button, window);
-    dark.setColor(QPalette::ButtonText, text);
-    dark.setColor(QPalette::ToolTipBase, base);
-    dark.setColor(QPalette::ToolTipText, text);
-    dark.setColor(QPalette::PlaceholderText, QColor(160, 160, 160));
-    dark.setColor(QPalette::Highlight, QColor(42, 130, 218));
-    dark.setColor(QPalette::HighlightedText, Qt::white);
-    dark.setColor(QPalette::Disabled, QPalette::WindowText, QColor(140, 140, 140));
-    dark.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(140, 140, 140));
-    dark.setColor(QPalette::Disabled, QPalette::Text, QColor(140, 140, 140));
+    const auto paint = [&dark](const QColor& colour,
+                               std::initializer_list<QPalette::ColorRole> roles) {
+        for (const QPalette::ColorRole role : roles)
+            dark.setColor(role, colour);
+    };
+    paint(QColor(45, 45, 48), {QPalette::Window, QPalette::AlternateBase, QPalette::Button});
+    paint(QColor(30, 30, 32), {QPalette::Base, QPalette::ToolTipBase});
+    paint(QColor(230, 230, 230),
+          {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText});
+    paint(QColor(160, 160, 160), {QPalette::PlaceholderText});
+    paint(QColor(42, 130, 218), {QPalette::Highlight});
+    paint(Qt::white, {QPalette::HighlightedText});
+    for (const QPalette::ColorRole role :
+         {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
+        dark.setColor(QPalette::Disabled, role, QColor(140, 140, 140));
     QApplication::setPalette(dark);
+}
+
+// The real printer with its dialog answered: one copy, into the PDF file already set.
+class PdfPrinter final : public SystemPrinter {
+public:
+    explicit PdfPrinter(const QString& file) { setPdfOutput(file); }
+
+    std::optional<PrintChoice> showPrintDialog(PrintDialogKind) override { return PrintChoice{}; }
+};
+
+// Reports a fault of the entry; false, for the entry failed.
+bool Fault(const QString& name, const QString& fault) {
+    std::fprintf(stderr, "%s: %s\n", qPrintable(name), qPrintable(fault));
+    return false;
 }
 
 bool render(const QString& name, const GalleryBuild& build, const QDir& output, GalleryLook look) {
     GalleryScene scene;
     const std::unique_ptr<QWidget> screen(build(scene));
-    if (!screen) {
-        std::fprintf(stderr, "%s: the entry built nothing\n", qPrintable(name));
-        return false;
-    }
+    if (!screen)
+        return Fault(name, QStringLiteral("the entry built nothing"));
     screen->show();
-    if (!QTest::qWaitForWindowExposed(screen.get())) {
-        std::fprintf(stderr, "%s: the screen never showed\n", qPrintable(name));
-        return false;
-    }
+    if (!QTest::qWaitForWindowExposed(screen.get()))
+        return Fault(name, QStringLiteral("the screen never showed"));
     QCoreApplication::processEvents();
     const QStringList faults = ScreenFaults(*screen, look);
     for (const QString& fault : faults)
-        std::fprintf(stderr, "%s: %s\n", qPrintable(name), qPrintable(fault));
+        Fault(name, fault);
     const QString file = output.filePath(name + QStringLiteral(".png"));
-    if (!screen->grab().save(file)) {
-        std::fprintf(stderr, "%s: could not write %s\n", qPrintable(name), qPrintable(file));
-        return false;
-    }
+    if (!screen->grab().save(file))
+        return Fault(name, QStringLiteral("could not write ") + file);
     std::printf("%s\n", qPrintable(file));
     return faults.isEmpty();
 }
 
 } // namespace
+
+QWidget* PrintedFirstPage(const QString& name, const std::function<void(Printer&)>& print) {
+    const QDir output(folder());
+    const QString pdf = output.filePath(name + QStringLiteral(".pdf"));
+    bool printed = false;
+    {
+        PdfPrinter printer(pdf);
+        print(printer);
+        printed = printer.ok();
+    }
+    const QString prefix = output.filePath(name + QStringLiteral("-page"));
+    QPixmap page;
+    if (!printed ||
+        QProcess::execute(QStringLiteral("pdftoppm"),
+                          {QStringLiteral("-png"), QStringLiteral("-r"), QStringLiteral("80"),
+                           QStringLiteral("-f"), QStringLiteral("1"), QStringLiteral("-l"),
+                           QStringLiteral("1"), QStringLiteral("-singlefile"), pdf, prefix}) != 0 ||
+        !page.load(prefix + QStringLiteral(".png"))) {
+        Fault(name, QStringLiteral("printing to %1 or its picture by pdftoppm failed").arg(pdf));
+        return nullptr;
+    }
+    auto* label = new QLabel;
+    label->setPixmap(page);
+    label->setWindowTitle(name);
+    return label;
+}
 
 void GalleryScene::loadDefaultCourse() {
     std::vector<course::SourceError> errors;
@@ -98,10 +132,6 @@ void GalleryScene::loadDefaultCourse() {
     if (!errors.empty() || file.size() < 2)
         file = FullCourseContent();
     CutContent(std::string_view(file.data(), file.size() - 1), state.catalogue, state.content);
-}
-
-QString GalleryFolder() {
-    return folder();
 }
 
 GalleryEntry::GalleryEntry(const char* name, GalleryBuild build) {
@@ -120,15 +150,14 @@ int main(int argc, char* argv[]) {
         else
             only = argument;
     }
-    const std::map<QString, tessera::GalleryLook> looks = {
-        {QStringLiteral("plain"), tessera::GalleryLook::Plain},
-        {QStringLiteral("scale2"), tessera::GalleryLook::Scale2},
-        {QStringLiteral("dark"), tessera::GalleryLook::Dark}};
-    if (!looks.contains(lookName)) {
+    const qsizetype lookIndex =
+        QStringList{QStringLiteral("plain"), QStringLiteral("scale2"), QStringLiteral("dark")}
+            .indexOf(lookName);
+    if (lookIndex < 0) {
         std::fprintf(stderr, "no look %s: plain, scale2 or dark\n", qPrintable(lookName));
         return 1;
     }
-    const tessera::GalleryLook look = looks.at(lookName);
+    const auto look = static_cast<tessera::GalleryLook>(lookIndex);
     if (look == tessera::GalleryLook::Scale2)
         qputenv("QT_SCALE_FACTOR", "2");
     QApplication application(argc, argv);
