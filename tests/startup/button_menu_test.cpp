@@ -66,7 +66,6 @@ class ButtonMenuTest : public QObject {
 private Q_SLOTS:
     void clicksOpenFramesAndScreens() {
         const std::tuple<std::function<void(Menu&)>, const char*, std::string> cases[] = {
-            {nullptr, "Option1_3", "--x-- option 3 |  | topic 1 help 1 viewer 1 | off:"},
             {nullptr, "Option1_1 Option1_0 Command1_2",
              "----- option 6 | show ExamSet, show Quiz800 | topic 3 help 1 viewer 1 | off:"},
             {nullptr,

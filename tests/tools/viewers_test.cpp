@@ -16,8 +16,8 @@
 #include <QPushButton>
 #include <QtTest>
 
-#include <functional>
 #include <memory>
+#include <optional>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -82,56 +82,77 @@ const std::string InDefinitions =
     Find + "click Option1_1; fill Text2 hidden needle; click Command1_4";
 
 struct Notes : ScreenFixture {
-    explicit Notes(const char* body = "Contracts: offer and acceptance.") {
+    Notes() {
         folder.write("TesseraNoteBook.RTF",
-                     std::string("{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\\f0\\fs24 ") + body +
-                         "\\par }");
+                     "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\\f0\\fs24 Lease, "
+                     "then a lease option, then LEASE again.\\par }");
         open();
     }
     void open() {
         notebook = std::make_unique<NoteBook>(context);
         notebook->show();
     }
-    void typeAtEnd(const QString& words) const {
-        notebook->RichTextBox1->moveCursor(QTextCursor::End);
-        QTest::keyClicks(notebook->RichTextBox1, words);
+    std::string after(const std::string& steps) {
+        const auto view = [this] { return notebook->RichTextBox1; };
+        ScreenScript([this] { return notebook.get(); }, dialogs)
+            .with("open", [this](const QString&) { open(); })
+            .with("close", [this](const QString&) { notebook->close(); })
+            .with("append",
+                  [view](const QString& words) {
+                      view()->moveCursor(QTextCursor::End);
+                      QTest::keyClicks(view(), words);
+                  })
+            .with("select",
+                  [view](const QString& range) {
+                      view()->setSelStart(range.section(u' ', 0, 0).toInt());
+                      view()->setSelLength(range.section(u' ', 1).toInt());
+                  })
+            .with("paste",
+                  [view](const QString& text) {
+                      QGuiApplication::clipboard()->setText(text);
+                      view()->paste();
+                  })
+            .with("cut", [view](const QString&) { view()->cut(); })
+            .with("undo", [view](const QString&) { view()->undo(); })
+            // The end of the program saves through the same view, and leaves it unchanged.
+            .with("save",
+                  [this](const QString&) {
+                      static_cast<SavesNoteBook&>(*notebook).SaveNoteBook();
+                      state.NoteBookChanged = false;
+                  })
+            .with("next",
+                  [this](const QString& times) {
+                      for (int i = 0; i < times.toInt(); ++i)
+                          QTest::mouseClick(notebook->Command2[0], Qt::LeftButton);
+                  })
+            .with("full", [this](const QString&) { full.emplace(FaultyFiles::Fault::DiskFull, 1); })
+            .run(steps);
+        return rendered();
     }
-    // Whether the notes are changed and open; the selection; the file's text; the messages.
+    // Whether the notes are changed and open; the find panel and the control with the focus;
+    // whether Close and Find Next are enabled (x); the selection; the file's text; the messages.
     std::string rendered() const {
         RichTextView saved;
         saved.loadFile(QStringLiteral("TesseraNoteBook.RTF"));
-        return std::string(state.NoteBookChanged ? "changed " : "") +
-               (notebook->isVisible() ? "open " : "closed ") +
-               std::to_string(notebook->RichTextBox1->selStart()) + '+' +
-               (notebook->RichTextBox1->selText() + u'|' + saved.text().trimmed() + u'|' +
+        QString text = state.NoteBookChanged ? u"changed "_s : u""_s;
+        text += notebook->isVisible() ? u"open "_s : u"closed "_s;
+        if (notebook->Frame1->isVisible())
+            text += u"find "_s + notebook->focusWidget()->objectName() + u' ';
+        for (const QPushButton* command : {notebook->Command1[2], notebook->Command2[0]})
+            text += command->isEnabled() ? u'x' : u'-';
+        return (text + u" %1+"_s.arg(notebook->RichTextBox1->selStart()) +
+                notebook->RichTextBox1->selText() + u'|' + saved.text().trimmed() + u'|' +
                 dialogs.messagesText())
-                   .toStdString();
+            .toStdString();
     }
 
     std::unique_ptr<NoteBook> notebook;
+    std::optional<FaultyFiles> full;
 };
 
-// Types, leaves the cursor at 10 and closes with that answer, then opens the notebook again
-// and closes it unchanged, which asks nothing.
-void CloseAndReopen(Notes& n, MessageAnswer answer) {
-    n.typeAtEnd(QStringLiteral(" Consideration too."));
-    n.notebook->RichTextBox1->setSelStart(10);
-    n.dialogs.answer(answer);
-    n.notebook->close();
-    n.open();
-    n.notebook->close();
-}
-
-// Changes the notebook with the mouse, then closes it without saving.
-void MouseEdit(Notes& n, const std::function<void(RichTextView&)>& edit) {
-    n.notebook->RichTextBox1->setSelStart(0);
-    n.notebook->RichTextBox1->setSelLength(9);
-    edit(*n.notebook->RichTextBox1);
-    n.dialogs.answer(MessageAnswer::No);
-    n.notebook->close();
-}
-
 const std::string Asked = "Change Detected! (yes/no): Save your changes to disk?";
+const std::string Lease = "Lease, then a lease option, then LEASE again.";
+const std::string FindLease = "click Command1_0; fill Text1_1 lease; ";
 
 } // namespace
 
@@ -141,7 +162,6 @@ class ViewersTest : public QObject {
 private Q_SLOTS:
     void viewerLettersFindAndHelp() {
         const std::pair<std::string, std::string> cases[] = {
-            {"open 8", Glossary + "Aterm 001 0|-|Meaning number 1.|Aterm 001|.xxx..x" + Tail},
             // A letter finds its first term; again, it walks on through its terms, and from the
             // last term of the list it starts over. "A" counts as the letter last used.
             {"open 8; press M 2",
@@ -163,7 +183,6 @@ private Q_SLOTS:
             {Find + "fill Text2 hidden needle; click Command1_4",
              Glossary + "Aterm 001 0|Text2|Meaning number 1.|Aterm 001|.--xxxx" + Tail +
                  "Sorry! (question ok): hidden needle not found."},
-            {InDefinitions, Glossary + Needle + ".--xxxx" + Tail},
             {InDefinitions + "; click Command1_4", Glossary + Needle + ".--xxxx" + Tail},
             {InDefinitions +
                  "; click Check1; fill Text2 Hidden Needle; click Command1_4; click Command1_5",
@@ -183,76 +202,37 @@ private Q_SLOTS:
             QCOMPARE(Viewer().after(steps), expected);
     }
 
-    void notebookEditsAndSaves() {
-        const std::pair<std::function<void(Notes&)>, std::string> cases[] = {
-            {[](Notes& n) { CloseAndReopen(n, MessageAnswer::Yes); },
-             "closed 10+|Contracts: offer and acceptance.\n Consideration too.|" + Asked},
-            {[](Notes& n) { CloseAndReopen(n, MessageAnswer::No); },
-             "closed 10+|Contracts: offer and acceptance.|" + Asked},
+    void notebookEditsFindsAndSaves() {
+        const std::pair<std::string, std::string> cases[] = {
+            // Find walks on from the last hit and wraps round once; searching changes nothing.
+            {"click Command1_0", "open find Text1_1 -- 0+|" + Lease + "|"},
+            {FindLease + "next 1", "open find RichTextBox1 -x 0+Lease|" + Lease + "|"},
+            {FindLease + "next 2", "open find RichTextBox1 -x 14+lease|" + Lease + "|"},
+            {FindLease + "next 4", "open find RichTextBox1 -x 0+Lease|" + Lease + "|"},
+            {FindLease + "next 1; click Check1; fill Text1_1 LEASE; next 1",
+             "open find RichTextBox1 -x 33+LEASE|" + Lease + "|"},
+            // Enter in the box finds.
+            {"click Command1_0; fill Text1_1 easement; key Return",
+             "open find Text1_1 -x 0+|" + Lease + "|Sorry! (question ok): easement not found."},
+            {"click Command1_0; click Command2_1", "open x- 0+|" + Lease + "|"},
+            // Typed, the cursor left at 10, closed with that answer; opened again and closed
+            // unchanged, which asks nothing.
+            {"append  Consideration too.; select 10 0; answer Yes; close; open; close",
+             "closed xx 10+|" + Lease + "\n Consideration too.|" + Asked},
+            {"append  Consideration too.; select 10 0; answer No; close; open; close",
+             "closed xx 10+|" + Lease + "|" + Asked},
             // Edits the mouse makes change the notebook as keys do.
-            {[](Notes& n) {
-                 QGuiApplication::clipboard()->setText(QStringLiteral("Agency. "));
-                 MouseEdit(n, [](RichTextView& view) { view.paste(); });
-             },
-             "closed 8+|Contracts: offer and acceptance.|" + Asked},
-            {[](Notes& n) {
-                 MouseEdit(n, [&n](RichTextView& view) {
-                     view.cut();
-                     // The end of the program saves through the same view, and leaves it unchanged.
-                     dynamic_cast<SavesNoteBook&>(static_cast<QWidget&>(*n.notebook))
-                         .SaveNoteBook();
-                     n.state.NoteBookChanged = false;
-                     view.undo();
-                 });
-             },
-             "closed 9+|: offer and acceptance.|" + Asked},
-            {[](Notes& n) {
-                 n.typeAtEnd(QStringLiteral(" Escrow."));
-                 FaultyFiles full(FaultyFiles::Fault::DiskFull, 1);
-                 n.dialogs.answer(MessageAnswer::Yes);
-                 n.notebook->close();
-             },
-             "changed open 41+|Contracts: offer and acceptance.|" + Asked +
+            {"select 0 9; paste Agency.; answer No; close", "closed xx 7+|" + Lease + "|" + Asked},
+            {"select 0 9; cut; save; undo; answer No; close",
+             "closed xx 9+|en a lease option, then LEASE again.|" + Asked},
+            {"append  Escrow.; full; answer Yes; close",
+             "changed open xx 54+|" + Lease + "|" + Asked +
                  "\nNotebook Not Saved (critical ok): Your notebook could not be written to "
                  "TesseraNoteBook.RTF. Make sure the study folder can be written to and has "
                  "room, then save your notes again."},
         };
-        for (const auto& [act, expected] : cases) {
-            Notes n;
-            act(n);
-            QCOMPARE(n.rendered(), expected);
-        }
-    }
-
-    void notebookFindWrapsRoundOnceAndSaysSorryOnce() {
-        Notes n("Lease, then a lease option, then LEASE again.");
-        NoteBook& notebook = *n.notebook;
-        const auto found = [&n] {
-            return QString::fromStdString(n.rendered()).section(u'|', 0, 0);
-        };
-        QTest::mouseClick(notebook.Command1[0], Qt::LeftButton);
-        QVERIFY(notebook.Frame1->isVisible() && !notebook.Command1[2]->isEnabled() &&
-                !notebook.Command2[0]->isEnabled());
-        QTest::keyClicks(notebook.Text1, QStringLiteral("lease"));
-        QStringList hits;
-        for (int i = 0; i < 4; ++i) {
-            QTest::mouseClick(notebook.Command2[0], Qt::LeftButton);
-            hits << found();
-        }
-        notebook.Check1->setChecked(true); // the capitals only, from behind the first hit
-        notebook.Text1->setText(QStringLiteral("LEASE"));
-        QTest::mouseClick(notebook.Command2[0], Qt::LeftButton);
-        hits << found();
-        QCOMPARE(hits.join(u','), QStringLiteral("open 0+Lease,open 14+lease,open 33+LEASE,open "
-                                                 "0+Lease,open 33+LEASE"));
-        notebook.Text1->setText(QStringLiteral("easement"));
-        QTest::keyClick(notebook.Text1, Qt::Key_Return); // Enter in the box finds
-        QCOMPARE(QString::fromStdString(n.rendered()).section(u'|', 2),
-                 QStringLiteral("Sorry! (question ok): easement not found."));
-        QCOMPARE(notebook.focusWidget(), notebook.Text1);
-        QTest::mouseClick(notebook.Command2[1], Qt::LeftButton);
-        QVERIFY(!notebook.Frame1->isVisible() && notebook.Command1[2]->isEnabled());
-        QVERIFY(!n.state.NoteBookChanged); // searching changes nothing
+        for (const auto& [steps, expected] : cases)
+            QCOMPARE(Notes().after(steps), expected);
     }
 };
 
