@@ -6,11 +6,11 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QGroupBox>
+#include <QHash>
 #include <QLabel>
 #include <QSet>
 #include <QWidget>
 
-#include <map>
 #include <optional>
 
 namespace tessera {
@@ -31,7 +31,7 @@ const QStringList ScreenNames =
 // frame choices with the buttons of a frame ("Tools and &Options", "N&otebook", "Review Test
 // &Options"; "C&alculator", "&Alarm Clock"; "&Screening Exam", "&Screening Exams"; "&Topic
 // Review Test", "&Topic Review Tests"), and Find with Find Next on the viewer and the notebook.
-const std::map<QString, QString> GivenSharedKeys = {
+const QHash<QString, QString> GivenSharedKeys = {
     {QStringLiteral("ButtonMenu"), QStringLiteral("oast")},
     {QStringLiteral("Viewing"), QStringLiteral("f")},
     {QStringLiteral("NoteBook"), QStringLiteral("f")}};
@@ -95,9 +95,7 @@ void CheckKeys(const QWidget& screen, QStringList& faults) {
         if (mark < 0 || mark + 1 >= caption.size() || !button->isVisibleTo(&screen))
             continue;
         const QChar key = caption.at(mark + 1).toLower();
-        const auto shared = GivenSharedKeys.find(screen.objectName());
-        const bool given = shared != GivenSharedKeys.end() && shared->second.contains(key);
-        if (seen.contains(key) && !given)
+        if (seen.contains(key) && !GivenSharedKeys.value(screen.objectName()).contains(key))
             faults << QStringLiteral("Alt+%1 on more than one button").arg(key.toUpper());
         seen.insert(key);
     }
