@@ -264,72 +264,55 @@ TEST_F(ProgressFileTest, StartUpRecoversACompleteRewrite) {
     }
 }
 
-struct JournalCase {
-    const char* name;
-    bool exam;
-    int cutTo;            // bytes kept of the journal; 0: all
-    int flipByte;         // a byte changed after the journal was written; -1: none
-    const char* replayed; // what the next start after the replay restores
-};
-
-class RunJournalTest : public ProgressFileTest, public testing::WithParamInterface<JournalCase> {};
-
 // A run saved once, then journaled further: whole, the journal takes the place of its record;
-// cut off or not adding up, it is dropped and the file stays as it was.
-TEST_P(RunJournalTest, WholeJournalsBecomeTheSuspendedRunAndOthersAreDropped) {
-    const JournalCase& c = GetParam();
-    c.exam ? SaveExam(state, false, Today) : SaveReviewTest(state, false, Today);
-    const std::string saved = folder.read(ProgressFile);
-    // The exam's second answer is given but not committed: a break would clear it, the run
-    // keeps it.
-    state.ExamAnswers[2] = 3;
-    ASSERT_TRUE(JournalExam(state, Today));
-    EXPECT_EQ(state.ExamAnswers[2], 3) << "journaling leaves the running exam alone";
-    // Two more answers, then the machine stops before any save.
-    std::tie(state.TestPosition, state.ExamAnswered[2], state.ExamPosition) = std::tuple(2, 1, 2);
-    state.TestTally = {0, 2, 1, 4, 0};
-    ASSERT_TRUE(c.exam ? JournalExam(state, Today) : JournalReviewTest(state, Today));
-    std::string journal = folder.read(JournalFile);
-    journal.resize(c.cutTo != 0 ? static_cast<std::size_t>(c.cutTo) : journal.size());
-    if (c.flipByte >= 0)
-        journal[static_cast<std::size_t>(c.flipByte)] ^= 0x20;
-    folder.write(JournalFile, journal);
+// not adding up, or emptied as the folder would not let it go, it is dropped and the file stays.
+TEST_F(ProgressFileTest, WholeJournalsBecomeTheSuspendedRunAndOthersAreDropped) {
+    const struct {
+        bool exam;
+        int flipByte;         // a byte changed after the journal was written; -1: none
+        bool stuck;           // the journal dropped while no file can be removed
+        const char* replayed; // what the next start after the replay restores
+    } cases[] = {
+        {true, -1, false, "2: 0/2 e2@2, test at 0 tally 0, exam at 2 answer 3"},
+        {true, 45, false, "0: 0/2 e2@1, test at 0 tally 0, exam at 1 answer 0"},
+        {false, -1, true, "0: 2/0 t3@1, test at 1 tally 0, exam at 0 answer 0"},
+    };
+    for (const auto& c : cases) {
+        const StudyFolder own;
+        SessionState s = state;
+        c.exam ? SaveExam(s, false, Today) : SaveReviewTest(s, false, Today);
+        const std::string saved = own.read(ProgressFile);
+        // The exam's second answer is given but not committed: a break would clear it, the run
+        // keeps it.
+        s.ExamAnswers[2] = 3;
+        ASSERT_TRUE(JournalExam(s, Today));
+        EXPECT_EQ(s.ExamAnswers[2], 3) << "journaling leaves the running exam alone";
+        // Two more answers, then the machine stops before any save.
+        std::tie(s.TestPosition, s.ExamAnswered[2], s.ExamPosition) = std::tuple(2, 1, 2);
+        s.TestTally = {0, 2, 1, 4, 0};
+        ASSERT_TRUE(c.exam ? JournalExam(s, Today) : JournalReviewTest(s, Today));
+        std::string journal = own.read(JournalFile);
+        if (c.flipByte >= 0)
+            journal[static_cast<std::size_t>(c.flipByte)] ^= 0x20;
+        own.write(JournalFile, journal);
+        if (c.stuck) {
+            FaultyFiles stuck(Fault::RemoveRefused, 0);
+            DropJournal();
+        }
 
-    SessionState next = Restarted();
-    const Replayed replayed = ReplayJournal(next, Today);
-    EXPECT_FALSE(folder.exists(JournalFile));
-    const SessionState later = Restarted();
-    EXPECT_EQ(
-        std::to_string(static_cast<int>(replayed)) + ": " + Sketch(folder.read(ProgressFile)) +
-            ", test at " + std::to_string(later.TestPosition) + " tally " +
-            std::to_string(later.TestTally[3]) + ", exam at " + std::to_string(later.ExamPosition) +
-            " answer " + std::to_string(later.ExamAnswers[2]),
-        c.replayed);
-    EXPECT_TRUE(replayed != Replayed::Nothing || folder.read(ProgressFile) == saved);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Cases, RunJournalTest,
-    testing::Values(JournalCase{"ResumedExam", true, 0, -1,
-                                "2: 0/2 e2@2, test at 0 tally 0, exam at 2 answer 3"},
-                    JournalCase{"HalfWritten", false, 470, -1,
-                                "0: 2/0 t3@1, test at 1 tally 0, exam at 0 answer 0"},
-                    JournalCase{"NotAddingUp", true, 0, 45,
-                                "0: 0/2 e2@1, test at 0 tally 0, exam at 1 answer 0"}),
-    [](const testing::TestParamInfo<JournalCase>& info) { return info.param.name; });
-
-TEST_F(ProgressFileTest, AJournalThatCannotBeRemovedIsEmptiedAndNothingIsReplayed) {
-    WriteProgressHeader(ProgressHeader{});
-    ASSERT_TRUE(JournalReviewTest(state, Today));
-    SaveReviewTest(state, true, Today); // the run is finished and saved
-    const std::string saved = folder.read(ProgressFile);
-    {
-        FaultyFiles stuck(FaultyFiles::Fault::RemoveRefused, 0);
-        DropJournal();
+        SessionState next = Restarted();
+        const Replayed replayed = ReplayJournal(next, Today);
+        EXPECT_FALSE(own.exists(JournalFile));
+        const SessionState later = Restarted();
+        EXPECT_EQ(std::to_string(static_cast<int>(replayed)) + ": " +
+                      Sketch(own.read(ProgressFile)) + ", test at " +
+                      std::to_string(later.TestPosition) + " tally " +
+                      std::to_string(later.TestTally[3]) + ", exam at " +
+                      std::to_string(later.ExamPosition) + " answer " +
+                      std::to_string(later.ExamAnswers[2]),
+                  c.replayed);
+        EXPECT_TRUE(replayed != Replayed::Nothing || own.read(ProgressFile) == saved);
     }
-    RestoreSuspended(state);
-    EXPECT_EQ(ReplayJournal(state, Today), Replayed::Nothing);
-    EXPECT_EQ(folder.read(ProgressFile), saved);
 }
 
 // Every operation that writes the progress file or the journal, stopped at each write, flush,

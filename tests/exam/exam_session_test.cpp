@@ -214,25 +214,6 @@ TEST(ExamEnd, NothingCommittedLeavesNoRecordAndNoResults) {
     EXPECT_EQ(e.state.ExamPosition, 0);
 }
 
-// The log entry and the take go with the record: a save that fails files none of them, and the
-// exam finished again files each once.
-TEST(ExamEnd, AFailedSaveFilesNeitherLogNorTakeUntilTheExamIsFinishedAgain) {
-    Exam e(10);
-    e.open();
-    e.Answer(8, 0);
-    ExamEndOutcome end;
-    {
-        FaultyFiles full(FaultyFiles::Fault::DiskFull, 1);
-        end = e.Close(true);
-    }
-    EXPECT_EQ(e.Filed(end) + std::to_string(e.state.TakeCounts[10]),
-              "|1 records, 0 exam|log 0 0|takes 0|suspended 0 0|1 10");
-    end = EndExam(e.state, true, 8, e.clock.now(), e.dialogs, {});
-    EXPECT_EQ(e.Filed(end) + std::to_string(e.state.TakeCounts[10]),
-              "saved results|2 records, 1 exam|log 10 0|takes 1|suspended 0 0|1 11");
-    EXPECT_FLOAT_EQ(ReadProgressHeader().LogScores[1], 0.8f);
-}
-
 TEST(ExamEnd, BelowThirtyPercentIsRemovedButLogged) {
     Exam e(67);
     e.open();
@@ -248,21 +229,31 @@ TEST(ExamEnd, BelowThirtyPercentIsRemovedButLogged) {
 }
 
 // Broken off, the exam is resumed in a later run: the earlier answers graded against ExamKey,
-// the time of both runs added up.
-TEST(ExamEnd, BrokenOffResumesInANewRun) {
+// the time of both runs added up. The log entry and the take go with the record: a save that
+// fails files none of them, and the exam finished again files each once.
+TEST(ExamEnd, BrokenOffResumesInANewRunAndAFailedSaveFilesNothingUntilFinishedAgain) {
     Exam e(6);
     e.open();
-    e.Answer(2, 1);
+    e.Answer(3, 0);
     e.clock.advanceSeconds(90);
     EXPECT_EQ(e.Filed(e.Close(false)), "saved|2 records, 1 exam|log 0 0|takes 0|suspended 2 0|1 0");
     e.state = SessionState{};
     Exam::NewState(e.state);
     RestoreSuspended(e.state);
     EXPECT_EQ(e.open().list(AnsweredList).rows() * 10 + e.state.ExamPosition, 34);
+    e.Answer(2, 0);
     e.clock.advanceSeconds(30);
-    EXPECT_EQ(e.Filed(e.Close(true)),
-              "saved results|2 records, 1 exam|log 10 0|takes 0|suspended 0 0|2 1");
-    EXPECT_FLOAT_EQ(e.state.ExamScore, 2.0f / 6.0f);
+    ExamEndOutcome end;
+    {
+        FaultyFiles full(FaultyFiles::Fault::DiskFull, 1);
+        end = e.Close(true);
+    }
+    EXPECT_EQ(e.Filed(end) + std::to_string(e.state.TakeCounts[10]),
+              "|2 records, 1 exam|log 0 0|takes 0|suspended 2 0|2 10");
+    end = EndExam(e.state, true, 5, e.clock.now(), e.dialogs, {});
+    EXPECT_EQ(e.Filed(end) + std::to_string(e.state.TakeCounts[10]),
+              "saved results|2 records, 1 exam|log 10 0|takes 1|suspended 0 0|2 11");
+    EXPECT_FLOAT_EQ(ReadProgressHeader().LogScores[1], 5.0f / 6.0f);
     EXPECT_NEAR(e.state.ExamElapsed * 86400.0, 120, 1e-2);
 }
 
