@@ -135,7 +135,6 @@ struct Alarm : ScreenFixture {
                   [this](const QString& time) {
                       clock.setDateTime(2026, 11, 19, time.left(2).toInt(), time.mid(3).toInt(), 0);
                   })
-            .with("row", [this](const QString& row) { form->List1->setCurrentRow(row.toInt()); })
             .with("show", [this](const QString&) { form->show(); })
             .with("minimize", [this](const QString&) { form->showMinimized(); })
             .with("normal", [this](const QString&) { form->showNormal(); })
@@ -255,7 +254,7 @@ private Q_SLOTS:
              "tick 39600",
              "alarm 3:00:02 PM 54002 -tm|3:00:03 PM|Alarm Clock|tones 1760/800 1760/800" +
                  AlarmAsked + "|" + Hello + "3:00:02 PM\n" + Hello + "3:00:03 PM"},
-            {"at 23:55; row 0; click Command1_3; tick 1",
+            {"at 23:55; click Command1_3; tick 1",
              "alarm 12:05:00 AM 300 -tm|11:55:01 PM|Alarm Clock|tones 1760/800|" + Hello +
                  "11:55:01 PM"},
             // The minimized title shows the time the option chose, once the minute turns.

@@ -168,8 +168,6 @@ private Q_SLOTS:
              Glossary + "Mterm 002 589|Command3_12|Meaning number 590.|Mterm 002|.xxx..x" + Tail},
             {"open 8; press A",
              Glossary + "Aterm 002 1|Command3_0|Meaning number 2.|Aterm 002|.xxx..x" + Tail},
-            {"open 8; press A 49",
-             Glossary + "Aterm 001 0|Command3_0|Meaning number 1.|Aterm 001|.xxx..x" + Tail},
             {"open 8; press Z 55",
              Glossary + "Zterm 001 1127|Command3_25|Meaning number 1128.|Zterm 001|.xxx..x" + Tail},
             // Keys on a letter button jump too; a letter without terms does nothing.
@@ -205,8 +203,6 @@ private Q_SLOTS:
     void notebookEditsFindsAndSaves() {
         const std::pair<std::string, std::string> cases[] = {
             // Find walks on from the last hit and wraps round once; searching changes nothing.
-            {"click Command1_0", "open find Text1_1 -- 0+|" + Lease + "|"},
-            {FindLease + "next 1", "open find RichTextBox1 -x 0+Lease|" + Lease + "|"},
             {FindLease + "next 2", "open find RichTextBox1 -x 14+lease|" + Lease + "|"},
             {FindLease + "next 4", "open find RichTextBox1 -x 0+Lease|" + Lease + "|"},
             {FindLease + "next 1; click Check1; fill Text1_1 LEASE; next 1",
