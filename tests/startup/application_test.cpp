@@ -3,7 +3,6 @@
 
 #include "app/application.h"
 #include "app/deferred_sound.h"
-#include "core/pubdat.h"
 #include "platform/rich_text_view.h"
 #include "tests/support/screen_fixture.h"
 #include "tests/support/small_course.h"
@@ -124,15 +123,14 @@ private Q_SLOTS:
         FillSmallCourse(state);
         const auto shown = [&p] {
             settle();
-            return qobject_cast<Help*>(p.app->find(ScreenName::Help))
-                ->RichTextBox1->text()
-                .trimmed();
+            auto* help = qobject_cast<Help*>(p.app->find(ScreenName::Help));
+            return help->RichTextBox1->text().trimmed();
         };
         p.app->openHelp(state, HelpTopic::Glossary, HelpOpening::Comparing);
         QPointer<QWidget> glossary = p.app->find(ScreenName::Help);
         p.app->openHelp(state, HelpTopic::Glossary, HelpOpening::Comparing);
-        QCOMPARE(p.app->find(ScreenName::Help),
-                 glossary.data()); // brought forward, not loaded again
+        // Brought forward, not loaded again.
+        QCOMPARE(p.app->find(ScreenName::Help), glossary.data());
         QCOMPARE(shown(), QStringLiteral("Help text 7"));
         p.app->openHelp(state, HelpTopic::NoteBook, HelpOpening::Afresh);
         QCOMPARE(shown(), QStringLiteral("Help text 8"));
