@@ -145,8 +145,6 @@ TEST(CourseCompiler, CheckNamesEveryViolationByItsLine) {
         {"\\par 05001C\r\n", "\\par 05001C\r\n\\par 05 inside\r\n",
          "0 item without its explanation marker|0 item without choice A|1 a header line inside "
          "an item, or a broken item header"},
-        {"\\par *\r\n\\par Because C.\r\n\\par 07", "\\par Because C.\r\n\\par 07",
-         "-8 item without its explanation marker"},
         {"\\par Zoning\r\n\\par  Public rules.\r\n", "\\par Zoning\r\n",
          "0 glossary entry without a definition"},
         {"\\par D. Fourth\r\n\\par \r\n\\par *\r\n\\par Because C.\r\n\\par 08",

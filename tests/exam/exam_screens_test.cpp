@@ -6,6 +6,7 @@
 #include "exam/results.h"
 #include "platform/desktop_keys.h"
 #include "platform/rich_text_view.h"
+#include "tests/support/report_card_driver.h"
 #include "tests/support/screen_fixture.h"
 
 #include <QCheckBox>
@@ -34,13 +35,6 @@ private:
     static QString label(QWidget* screen, const char* name) {
         return Control<QLabel>(screen, name)->text();
     }
-    static QStringList rows(QWidget* screen, const char* name) {
-        QStringList texts;
-        auto* list = Control<QListWidget>(screen, name);
-        for (int r = 0; r < list->count(); ++r)
-            texts << list->item(r)->text();
-        return texts;
-    }
     ScreenCall lastCall() const { return f->screens.calls().back(); }
     bool shown(ScreenName name) const {
         return std::ranges::count(f->screens.calls(), ScreenCall{ScreenCallKind::Show, name}) > 0;
@@ -57,8 +51,7 @@ private Q_SLOTS:
         set.show();
         QTest::mouseClick(Control<QRadioButton>(&set, "Option3_2"), Qt::LeftButton);
         for (int i : {0, 1, 2, 3, 4, 5, 6, 7, 8, 2}) {
-            auto* box = Control<QCheckBox>(&set, qPrintable(QStringLiteral("Check2_%1").arg(i)));
-            QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(6, box->height() / 2));
+            ClickAtLeft(Control<QCheckBox>(&set, QStringLiteral("Check2_%1").arg(i)));
             if (i == 8) {
                 QCOMPARE(label(&set, "Label2"), QStringLiteral("Items Available in Pool:    0"));
                 QVERIFY(!enabled(&set, "Command1_0"));
@@ -74,13 +67,12 @@ private Q_SLOTS:
     // Keys answer and Enter commits; the picture follows its item; the clock stands still under
     // a message box and runs out; finishing after that saves and shows the results.
     void examByKeysUntilTimeRunsOut() {
-        f->state.ExamKind = f->state.ExamType = 3;
-        f->state.ExamScrambled = false;
-        f->state.ExamItemCount = 3;
-        f->state.ExamMinutes = 5;
-        f->state.ExamTopics.fill(false);
-        f->state.ExamTopics[2] = true; // running numbers 5 to 7
-        f->state.content.ItemPicture[5] = 1;
+        SessionState& s = f->state;
+        std::tie(s.ExamKind, s.ExamType, s.ExamScrambled, s.ExamItemCount, s.ExamMinutes) =
+            std::tuple(3, 3, false, 3, 5);
+        s.ExamTopics.fill(false);
+        s.ExamTopics[2] = true; // running numbers 5 to 7
+        s.content.ItemPicture[5] = 1;
         ExamTest exam(f->context);
         exam.show();
         QApplication::setActiveWindow(&exam);
@@ -95,7 +87,8 @@ private Q_SLOTS:
         QTRY_COMPARE(QApplication::focusWidget(), Control<QWidget>(&exam, "Command1_5"));
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); // Enter presses Next
         QVERIFY(QFile::exists(QString::fromLatin1(JournalFile)));     // the committed answer
-        QCOMPARE(rows(&exam, "List1_0"), QStringList{QStringLiteral("   1  A")});
+        QCOMPARE(ListRows(Control<QListWidget>(&exam, "List1_0")),
+                 QStringList{QStringLiteral("   1  A")});
         QCOMPARE(Control<QWidget>(&exam, "Frame1")->property("title").toString(),
                  QStringLiteral(" 1 Answered           2 Remaining"));
         QCOMPARE(lastCall(), (ScreenCall{ScreenCallKind::Unload, ScreenName::PictForm}));
@@ -104,7 +97,7 @@ private Q_SLOTS:
         QTest::keyClick(remaining, Qt::Key_Space); // swallowed: no key search to another row
         QCOMPARE(remaining->currentRow(), 0);
         QTest::keyClick(remaining, Qt::Key_A);
-        QCOMPARE(f->state.ExamAnswers[2], int16_t(1));
+        QCOMPARE(s.ExamAnswers[2], int16_t(1));
 
         // An hour under the box neither counts nor expires the exam; Cancel starts the clock.
         auto* timer = exam.findChild<QTimer*>(QStringLiteral("Timer1"));
@@ -136,20 +129,18 @@ private Q_SLOTS:
         QVERIFY(f->dialogs.messages().size() == 1 && !exam.isVisible());
         QVERIFY(shown(ScreenName::Results));
         // The save wiped the uncommitted answer.
-        QCOMPARE(f->state.ExamAnswers[2] + f->state.ExamPosition, 0);
-        QCOMPARE(f->state.ExamElapsed, 5 / 1440.0);
+        QCOMPARE(s.ExamAnswers[2] + s.ExamPosition, 0);
+        QCOMPARE(s.ExamElapsed, 5 / 1440.0);
         QVERIFY(!QFile::exists(QString::fromLatin1(JournalFile)));
     }
 
     void resultsSortsPrintsOnceAndAsksOnDone() {
-        f->state.ExamKind = 3;
-        f->state.ExamItemCount = 3;
-        f->state.ExamScrambled = true;
-        f->state.ExamItems = {0, 9, 2, 5};
-        f->state.ExamAnswers = {0, 2, 3};
-        f->state.ExamUnsure = {0, 0, 63, 63}; // a mark without an answer does not count
-        f->state.ExamScore = 0.3f;
-        f->state.ExamElapsed = (3600 + 5 * 60 + 9) / 86400.0;
+        SessionState& s = f->state;
+        std::tie(s.ExamKind, s.ExamItemCount, s.ExamScrambled, s.ExamScore, s.ExamElapsed) =
+            std::tuple(3, 3, true, 0.3f, (3600 + 5 * 60 + 9) / 86400.0);
+        s.ExamItems = {0, 9, 2, 5};
+        s.ExamAnswers = {0, 2, 3};
+        s.ExamUnsure = {0, 0, 63, 63}; // a mark without an answer does not count
         Results results(f->context);
         results.show();
         QString summary;
@@ -162,7 +153,7 @@ private Q_SLOTS:
         QCOMPARE(results.windowTitle(), QStringLiteral("Custom Built Results, Item 1"));
         // Sorted, the list keeps the selected item: the third row now.
         click(&results, "Command1_0");
-        QCOMPARE(rows(&results, "List1").join(u'|'),
+        QCOMPARE(ListRows(Control<QListWidget>(&results, "List1")).join(u'|'),
                  QStringLiteral("  1   B    C?|  2   A    |  3   B    B"));
         QCOMPARE(Control<QListWidget>(&results, "List1")->currentRow(), 2);
         QVERIFY(!enabled(&results, "Command1_0"));
@@ -182,16 +173,16 @@ private Q_SLOTS:
                                 "report card.\r\nPress O.K. to stop viewing scoring results or "
                                 "Cancel to keep working."));
         QVERIFY(std::ranges::count(f->screens.calls(), unloaded) == 0);
-        f->state.ExamPosition = 7;
-        f->state.ExamScore = 0.29f;
+        s.ExamPosition = 7;
+        s.ExamScore = 0.29f;
         click(&results, "Command1_4");
         QVERIFY(f->dialogs.messages().back().text.startsWith(
             QStringLiteral("Note: You scored less than 30% correct. Therefore, the results of "
                            "this test have not been added to your report card.\r\n")));
-        QCOMPARE(f->state.ExamPosition, int16_t(0));
+        QCOMPARE(s.ExamPosition, int16_t(0));
         QCOMPARE(lastCall(), unloaded);
 
-        f->state.PrinterProblem = true;
+        s.PrinterProblem = true;
         Results withoutPrinter(f->context);
         QVERIFY(!enabled(&withoutPrinter, "Command1_1"));
     }

@@ -11,6 +11,9 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+#include <sstream>
+
 namespace tessera {
 namespace {
 
@@ -18,15 +21,11 @@ namespace {
 // course's 80 items of exam I are keyed A B C D A ...
 struct Exam : StudyFixture {
     explicit Exam(int items = 5, int structured = 0) {
-        ProgressHeader header;
-        header.UserName = "Candidate" + std::string(21, ' ');
-        WriteProgressHeader(header);
+        WriteProgressHeader(ProgressHeader{});
         NewState(state);
-        state.ExamKind = state.ExamType = 1;
-        state.ExamScrambled = false;
-        state.ExamItemCount = static_cast<int16_t>(items);
-        state.ExamMinutes = 10;
-        state.ExamStructured = static_cast<int16_t>(structured);
+        std::tie(state.ExamKind, state.ExamType, state.ExamScrambled, state.ExamItemCount,
+                 state.ExamMinutes, state.ExamStructured) =
+            std::tuple(1, 1, false, items, 10, structured);
     }
     static void NewState(SessionState& s) {
         FillSmallCourse(s, SmallTopicCounts, {80, 10});
@@ -60,19 +59,13 @@ struct Exam : StudyFixture {
     // refreshes and the boxes shown.
     std::string Filed(const ExamEndOutcome& end) const {
         const ProgressHeader h = ReadProgressHeader();
-        return std::string(end.saved ? "saved" : "") + (end.removed ? " removed" : "") +
-               (end.showResults ? " results" : "") +
-               QStringLiteral("|%1 records, %2 exam|log %3 %4|takes %5|suspended %6 %7|%8 %9")
-                   .arg(ProgressRecordCount())
-                   .arg(ReadExamRecords().size())
-                   .arg(h.LogCodes[1])
-                   .arg(h.LogCodes[2])
-                   .arg(h.TakeCounts[10])
-                   .arg(h.SuspendedExamRecord)
-                   .arg(h.SuspendedTestRecord)
-                   .arg(refreshed)
-                   .arg(dialogs.messages().size())
-                   .toStdString();
+        std::ostringstream out;
+        out << (end.saved ? "saved" : "") << (end.removed ? " removed" : "")
+            << (end.showResults ? " results" : "") << '|' << ProgressRecordCount() << " records, "
+            << ReadExamRecords().size() << " exam|log " << +h.LogCodes[1] << ' ' << +h.LogCodes[2]
+            << "|takes " << +h.TakeCounts[10] << "|suspended " << +h.SuspendedExamRecord << ' '
+            << +h.SuspendedTestRecord << '|' << refreshed << ' ' << dialogs.messages().size();
+        return out.str();
     }
 
     std::unique_ptr<ExamSession> session;
@@ -82,20 +75,18 @@ struct Exam : StudyFixture {
 // Plays the steps: "A" to "D" answer, "n" next, "p" previous or confirm, "u" unsure, "b" a blink
 // of the frame, "a0" or "r3" a click on a row of the answered or the remaining list.
 void Play(ExamSession& s, const std::string& steps) {
+    const std::map<char, void (ExamSession::*)()> presses{{'n', &ExamSession::pressNext},
+                                                          {'p', &ExamSession::pressPrevious},
+                                                          {'u', &ExamSession::pressUnsure},
+                                                          {'b', &ExamSession::blink}};
     for (std::size_t i = 0; i < steps.size(); ++i) {
         const char step = steps[i];
         if (step >= 'A' && step <= 'D')
             s.pressAnswer(step - 'A');
-        else if (step == 'n')
-            s.pressNext();
-        else if (step == 'p')
-            s.pressPrevious();
-        else if (step == 'u')
-            s.pressUnsure();
-        else if (step == 'b')
-            s.blink();
         else if (step == 'a' || step == 'r')
             s.selectRow(step == 'a' ? AnsweredList : RemainingList, steps[++i] - '0');
+        else
+            (s.*presses.at(step))();
     }
 }
 

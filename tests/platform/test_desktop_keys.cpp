@@ -6,7 +6,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
-#include <QVBoxLayout>
 
 #include <memory>
 
@@ -22,9 +21,6 @@ private Q_SLOTS:
         QWidget screen;
         auto* button = new QPushButton(QStringLiteral("&Next"), &screen);
         auto* find = new QLineEdit(&screen);
-        auto* layout = new QVBoxLayout(&screen);
-        layout->addWidget(button);
-        layout->addWidget(find);
         CloseOnEscape(&screen);
         screen.show();
         int clicks = 0;

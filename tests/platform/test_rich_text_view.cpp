@@ -1,5 +1,5 @@
 // The rich text box: selection by plain-text positions, a file that cannot be read, copy-only,
-// printing, the margin.
+// the margin, printing.
 
 #include "platform/print_rich_text.h"
 #include "platform/rich_text_view.h"
@@ -21,7 +21,7 @@ class TestRichTextView : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void selectsByPlainTextPositions() {
+    void selectsByPlainTextPositionsAndWrapsAtTheMargin() {
         RichTextView view;
         view.setTextRtf(Heading);
         view.setCopyOnly(true); // typing changes nothing
@@ -31,13 +31,16 @@ private Q_SLOTS:
         for (const auto& [start, length] : {std::pair{21, 9}, {2, 10}, {10000, 4}}) {
             view.setSelStart(start);
             view.setSelLength(length);
-            shown += QStringLiteral("%1 %2 %3|")
-                         .arg(view.selText())
-                         .arg(view.selStart())
-                         .arg(view.selLength());
+            shown += view.selText() +
+                     QStringLiteral(" %1 %2|").arg(view.selStart()).arg(view.selLength());
         }
         QCOMPARE(shown, QStringLiteral("fiduciary 21 9|ency\nA bro 2 10| 39 0|"));
         QVERIFY(!view.loadFile(QStringLiteral("no such notes.rtf")));
+        view.setRightMargin(6000); // twips: the text wraps at 400 pixels
+        QCOMPARE(view.lineWrapColumnOrWidth(), 400);
+        QCOMPARE(view.lineWrapMode(), QTextEdit::FixedPixelWidth);
+        view.setRightMargin(0);
+        QCOMPARE(view.lineWrapMode(), QTextEdit::WidgetWidth);
     }
 
     void printsTheSelectionOrTheWholeText() {
@@ -66,15 +69,6 @@ private Q_SLOTS:
                 printed += document.text + u'|';
             QCOMPARE(printed + QString::number(printer.jobsEnded), c.printed);
         }
-    }
-
-    void rightMarginSetsTheWrapWidth() {
-        RichTextView view;
-        view.setRightMargin(6000);
-        QCOMPARE(view.lineWrapColumnOrWidth(), 400);
-        QCOMPARE(view.lineWrapMode(), QTextEdit::FixedPixelWidth);
-        view.setRightMargin(0);
-        QCOMPARE(view.lineWrapMode(), QTextEdit::WidgetWidth);
     }
 };
 
