@@ -3,9 +3,8 @@
 #include "core/button_menu.h"
 #include "tests/support/screen_fixture.h"
 
+#include <QAbstractButton>
 #include <QGroupBox>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QtTest>
 
 #include <functional>
@@ -128,12 +127,6 @@ private Q_SLOTS:
         QTRY_VERIFY(m.rendered().starts_with("---x- option 4")); // a mnemonic clicks late
         QTest::keyClick(&menu, Qt::Key_Escape);
         QVERIFY(m.rendered().starts_with("----- option 6"));
-
-        QTest::keyClick(&menu, Qt::Key_H, Qt::AltModifier);
-        QTRY_VERIFY(m.rendered().starts_with("----x option 5"));
-        m.button(QStringLiteral("Command5_0"))->setFocus();
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-        QCOMPARE(m.screens.callsText(), "unload Help, show Help");
     }
 
     void closingSavesTheNotesAndEndsTheProgram() {

@@ -6,8 +6,6 @@
 #include "tools/calculator_machine.h"
 #include "tools/numeric_text.h"
 
-#include <QStringList>
-
 #include <gtest/gtest.h>
 
 #include <cmath>

@@ -11,9 +11,7 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QPointer>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
 #include <QTimer>
@@ -263,9 +261,8 @@ private Q_SLOTS:
              "alarm 5:30:00 PM 63000 ptm||05:30 PM|tones" + AlarmAsked + "|"},
             {Minimized + "; tick 30; normal",
              "alarm 5:30:00 PM 63000 ptm||Alarm Clock|tones" + AlarmAsked + "|"},
-            // The clock takes the time of day only; not a time gives one message, no new prompt,
-            // and a
-            // cancelled prompt changes nothing.
+            // The clock takes the time of day only; not a time gives one message and no new
+            // prompt; a cancelled prompt changes nothing.
             {"type 7:30 PM; click Command1_1; tick 0",
              "alarm  -1 -t-|7:30:00 PM|Alarm Clock|tones" + ClockAsked + "|"},
             {"type half past; click Command1_1; click Command1_1",

@@ -8,10 +8,8 @@
 #include "tools/note_book.h"
 #include "tools/viewing.h"
 
-#include <QCheckBox>
 #include <QClipboard>
 #include <QGroupBox>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QtTest>
