@@ -28,7 +28,6 @@ std::string HeaderFile(int passingGrade = 75, int logCode = 0) {
     ProgressHeader header;
     header.UserName = PatDoe;
     header.PassingGrade = static_cast<uint8_t>(passingGrade);
-    header.TakeCounts[4] = 2;
     if (logCode != 0) {
         header.LogDates[1] = "11-18-2026";
         header.LogCodes[1] = static_cast<uint8_t>(logCode);
