@@ -267,20 +267,17 @@ TEST_F(ProgressFileTest, StartUpRecoversACompleteRewrite) {
 // A run saved once, then journaled further: whole, the journal takes the place of its record;
 // not adding up, or emptied as the folder would not let it go, it is dropped and the file stays.
 TEST_F(ProgressFileTest, WholeJournalsBecomeTheSuspendedRunAndOthersAreDropped) {
-    const struct {
-        bool exam;
-        int flipByte;         // a byte changed after the journal was written; -1: none
-        bool stuck;           // the journal dropped while no file can be removed
-        const char* replayed; // what the next start after the replay restores
-    } cases[] = {
+    // An exam or a test; a byte changed in the journal (-1: none); the journal dropped while no
+    // file can be removed; what the next start after the replay restores.
+    const std::tuple<bool, int, bool, std::string> cases[] = {
         {true, -1, false, "2: 0/2 e2@2, test at 0 tally 0, exam at 2 answer 3"},
         {true, 45, false, "0: 0/2 e2@1, test at 0 tally 0, exam at 1 answer 0"},
         {false, -1, true, "0: 2/0 t3@1, test at 1 tally 0, exam at 0 answer 0"},
     };
-    for (const auto& c : cases) {
+    for (const auto& [exam, flipByte, stuck, restored] : cases) {
         const StudyFolder own;
         SessionState s = state;
-        c.exam ? SaveExam(s, false, Today) : SaveReviewTest(s, false, Today);
+        exam ? SaveExam(s, false, Today) : SaveReviewTest(s, false, Today);
         const std::string saved = own.read(ProgressFile);
         // The exam's second answer is given but not committed: a break would clear it, the run
         // keeps it.
@@ -290,13 +287,13 @@ TEST_F(ProgressFileTest, WholeJournalsBecomeTheSuspendedRunAndOthersAreDropped) 
         // Two more answers, then the machine stops before any save.
         std::tie(s.TestPosition, s.ExamAnswered[2], s.ExamPosition) = std::tuple(2, 1, 2);
         s.TestTally = {0, 2, 1, 4, 0};
-        ASSERT_TRUE(c.exam ? JournalExam(s, Today) : JournalReviewTest(s, Today));
+        ASSERT_TRUE(exam ? JournalExam(s, Today) : JournalReviewTest(s, Today));
         std::string journal = own.read(JournalFile);
-        if (c.flipByte >= 0)
-            journal[static_cast<std::size_t>(c.flipByte)] ^= 0x20;
+        if (flipByte >= 0)
+            journal[static_cast<std::size_t>(flipByte)] ^= 0x20;
         own.write(JournalFile, journal);
-        if (c.stuck) {
-            FaultyFiles stuck(Fault::RemoveRefused, 0);
+        if (stuck) {
+            FaultyFiles refusing(Fault::RemoveRefused, 0);
             DropJournal();
         }
 
@@ -310,7 +307,7 @@ TEST_F(ProgressFileTest, WholeJournalsBecomeTheSuspendedRunAndOthersAreDropped) 
                       std::to_string(later.TestTally[3]) + ", exam at " +
                       std::to_string(later.ExamPosition) + " answer " +
                       std::to_string(later.ExamAnswers[2]),
-                  c.replayed);
+                  restored);
         EXPECT_TRUE(replayed != Replayed::Nothing || own.read(ProgressFile) == saved);
     }
 }

@@ -124,12 +124,8 @@ std::string Shown(ExamSession& s) {
 }
 
 TEST(ExamSession, StepsMoveItemsBetweenTheListsMarkThemUnsureAndEndTheExam) {
-    const struct {
-        int items;
-        int structured;
-        std::string steps;
-        std::string shown;
-    } cases[] = {
+    // Items, structured, the steps played and the screen after them.
+    const std::tuple<int, int, std::string, std::string> cases[] = {
         {5, 0, "nCn", "Item 3 of 5 [  ] 2C 1,>3,4,5* ABCDNPBFU 20% @Next"},
         {5, 0, "nCna0A", "Item 2 of 5 [  A] >2A* 1,>3,4,5 .BCDN.BFU 20% @Next"},
         {5, 0, "nCnp", "Item 1 of 5 [  ] 2C >1,3,4,5* ABCDN.BFU 20% @Next"},
@@ -148,10 +144,10 @@ TEST(ExamSession, StepsMoveItemsBetweenTheListsMarkThemUnsureAndEndTheExam) {
         {2, 1, "BnCnpAnp",
          "Item 2 of 2 [  A] >1C,2A- *- .BCD..BFU 50% @Text frame blinking finished close"},
     };
-    for (const auto& c : cases) {
-        Exam exam(c.items, c.structured);
-        Play(exam.open(), c.steps);
-        EXPECT_EQ(Shown(*exam.session), c.shown) << c.steps;
+    for (const auto& [items, structured, steps, shown] : cases) {
+        Exam exam(items, structured);
+        Play(exam.open(), steps);
+        EXPECT_EQ(Shown(*exam.session), shown) << steps;
     }
 }
 
@@ -249,19 +245,17 @@ TEST(ExamEnd, BrokenOffResumesInANewRunAndAFailedSaveFilesNothingUntilFinishedAg
 }
 
 TEST(EndRule, KeepsFromThirtyPercentAndCountsAtTheLowerOfSeventyAndThePassingGrade) {
-    const struct {
-        float score;
-        int grade, type, before;
-        const char* plan; // counted, removed, logged
-    } cases[] = {{0.70f, 90, 1, 0, "c l"}, {0.69f, 90, 1, 0, "  l"}, {0.60f, 60, 3, 1, "c l"},
-                 {0.59f, 60, 3, 1, "  l"}, {0.90f, 70, 4, 2, "c l"}, {0.90f, 70, 5, 0, "   "},
-                 {0.90f, 70, 1, 3, "  l"}, {0.3f, 70, 1, 0, "  l"}};
-    for (const auto& c : cases) {
-        const ExamEndPlan plan = PlanExamEnd(c.score, c.type, c.before, c.grade);
+    // Score, passing grade, exam type, takes before: counted, removed, logged.
+    const std::tuple<float, int, int, int, std::string> cases[] = {
+        {0.70f, 90, 1, 0, "c l"}, {0.69f, 90, 1, 0, "  l"}, {0.60f, 60, 3, 1, "c l"},
+        {0.59f, 60, 3, 1, "  l"}, {0.90f, 70, 4, 2, "c l"}, {0.90f, 70, 5, 0, "   "},
+        {0.90f, 70, 1, 3, "  l"}, {0.3f, 70, 1, 0, "  l"}};
+    for (const auto& [score, grade, type, before, expected] : cases) {
+        const ExamEndPlan plan = PlanExamEnd(score, type, before, grade);
         EXPECT_EQ(std::string(plan.countTake ? "c" : " ") + (plan.remove ? "r" : " ") +
                       (plan.log ? "l" : " "),
-                  c.plan)
-            << c.score << " " << c.type;
+                  expected)
+            << score << " " << type;
     }
 }
 

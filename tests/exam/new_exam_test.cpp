@@ -38,16 +38,13 @@ std::string Shown(const ExamSetForm& form) {
 
 TEST(ExamSetForm, PoolGuardsCustomValuesKeptWhileAnAuthorExamIsSelectedAndTake) {
     Builder b;
-    b.state.TakeCounts[10] = b.state.TakeCounts[11] = 3;
-    b.state.ExamKind = 3;
-    b.state.ExamItemCount = 40;
-    b.state.ExamMinutes = 255;
+    std::tie(b.state.TakeCounts[10], b.state.TakeCounts[11], b.state.ExamKind,
+             b.state.ExamItemCount, b.state.ExamMinutes) = std::tuple(3, 3, 3, 40, 255);
     ExamSetForm form(b.state);
     // It opens on the first exam not finished, or on the custom exam last taken.
     Builder other;
-    other.state.TakeCounts[10] = 3;
-    other.state.TakeCounts[11] = 2;
-    other.state.TakeCounts[12] = 1;
+    std::tie(other.state.TakeCounts[10], other.state.TakeCounts[11], other.state.TakeCounts[12]) =
+        std::tuple(3, 2, 1);
     const ExamSetForm first(other.state);
     EXPECT_EQ(first.examCaption(1) + "|" + TopicCaption(other.state, 2) + "|" + Shown(first),
               "Exam II - Author Prepared - Last Drill| 2   Preliminary Evaluation|1|Finished-|Last "
@@ -81,9 +78,7 @@ TEST(ExamSetForm, PoolGuardsCustomValuesKeptWhileAnAuthorExamIsSelectedAndTake) 
 std::vector<int> Draw(StudyFixture& f, int kind, bool scrambled, int count,
                       std::initializer_list<double> draws) {
     SessionState& s = f.state;
-    s.ExamKind = static_cast<int16_t>(kind);
-    s.ExamScrambled = scrambled;
-    s.ExamItemCount = static_cast<int16_t>(count);
+    std::tie(s.ExamKind, s.ExamScrambled, s.ExamItemCount) = std::tuple(kind, scrambled, count);
     f.random.script(draws);
     DrawExam(s, f.random, f.clock);
     return {s.ExamItems.begin() + 1, s.ExamItems.begin() + 1 + count};

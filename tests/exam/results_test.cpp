@@ -11,13 +11,12 @@
 namespace tessera {
 namespace {
 
-// count items; every item answered unless a multiple of skipEvery; every fifth unsure.
+// count items on November 19, 2026 at 1:30 PM; every item answered unless a multiple of
+// skipEvery; every fifth unsure.
 ResultsPrint Exam(int count, int skipEvery = 0) {
     ResultsPrint exam;
     exam.title = exam.examName = "Screening Exam II";
-    exam.userName = "Pat Doe";
-    exam.crLf = "\r\n";
-    exam.now = 46345 + 13.5 / 24; // Thursday, November 19, 2026 at 1:30 PM
+    std::tie(exam.userName, exam.crLf, exam.now) = std::tuple("Pat Doe", "\r\n", 46345 + 13.5 / 24);
     exam.summary = {"Answered", "Not Answered", "   Total", "Correct", "Unsure", "Time Used"};
     for (int k = 1; k <= count; ++k) {
         const bool skipped = skipEvery != 0 && k % skipEvery == 0;
@@ -52,11 +51,8 @@ std::string Layout(const RecordingPrinter& printer) {
 }
 
 TEST(ResultsPrint, PutsEachItemOnItsPageAndColumn) {
-    const struct {
-        int count;
-        int skipEvery;
-        std::string layout;
-    } cases[] = {
+    // Items, every how many one is skipped, the pages.
+    const std::tuple<int, int, std::string> cases[] = {
         {7, 3, "4 1/5..4/0 note summary"}, // an odd count leaves the last right column empty
         {110, 0, "55 1/56..55/110 | 0 cont summary"},
         {111, 0, "55 1/56..55/110 | 1 111/0..111/0 cont summary"},
@@ -67,10 +63,10 @@ TEST(ResultsPrint, PutsEachItemOnItsPageAndColumn) {
         {104, 13, "52 1/53..52/104 note | 0 summary"}, // the note takes the last room
         {104, 0, "52 1/53..52/104 summary"},
     };
-    for (const auto& c : cases) {
+    for (const auto& [count, skipEvery, layout] : cases) {
         RecordingPrinter printer;
-        ASSERT_TRUE(PrintResults(printer, Exam(c.count, c.skipEvery)));
-        EXPECT_EQ(Layout(printer), c.layout) << c.count;
+        ASSERT_TRUE(PrintResults(printer, Exam(count, skipEvery)));
+        EXPECT_EQ(Layout(printer), layout) << count;
         EXPECT_EQ(printer.jobsEnded, 1);
     }
 }

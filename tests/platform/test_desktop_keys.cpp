@@ -26,18 +26,14 @@ private Q_SLOTS:
         int clicks = 0;
         connect(button, &QPushButton::clicked, [&clicks] { ++clicks; });
         // Return, keypad Enter, held down, with Ctrl, on a disabled button, another key.
-        const struct {
-            int key;
-            Qt::KeyboardModifiers modifiers;
-            bool enabled, repeated;
-        } presses[] = {
+        const std::tuple<int, Qt::KeyboardModifiers, bool, bool> presses[] = {
             {Qt::Key_Return, {}, true, false},  {Qt::Key_Enter, Qt::KeypadModifier, true, false},
             {Qt::Key_Return, {}, true, true},   {Qt::Key_Return, Qt::ControlModifier, true, false},
             {Qt::Key_Return, {}, false, false}, {Qt::Key_X, {}, true, false}};
         QString counted;
-        for (const auto& p : presses) {
-            button->setEnabled(p.enabled);
-            QKeyEvent press(QEvent::KeyPress, p.key, p.modifiers, QString(), p.repeated);
+        for (const auto& [key, modifiers, enabled, repeated] : presses) {
+            button->setEnabled(enabled);
+            QKeyEvent press(QEvent::KeyPress, key, modifiers, QString(), repeated);
             QApplication::sendEvent(button, &press);
             counted += QString::number(clicks);
         }

@@ -46,28 +46,25 @@ private Q_SLOTS:
     void printsTheSelectionOrTheWholeText() {
         RichTextView view;
         view.setTextRtf(Heading);
-        const struct {
-            std::optional<PrintChoice> choice; // none: the dialog is cancelled
-            std::optional<int> failAfterLines;
-            QString printed;
-        } cases[] = {
+        // The dialog's answer (none: Cancel), the lines after which the printer fails, the print.
+        const std::tuple<std::optional<PrintChoice>, std::optional<int>, QString> cases[] = {
             {PrintChoice{2, true}, std::nullopt, QStringLiteral("A broker|A broker|1")},
             {PrintChoice{1, false}, std::nullopt, view.text() + QStringLiteral("|1")},
             {PrintChoice{3, false}, 0, QStringLiteral("0")}, // a failing printer stops the copies
             {std::nullopt, std::nullopt, QStringLiteral("0")},
         };
-        for (const auto& c : cases) {
+        for (const auto& [choice, failAfterLines, expected] : cases) {
             view.setSelStart(7);
             view.setSelLength(8);
             RecordingPrinter printer;
-            printer.dialogAnswer = c.choice;
-            printer.failAfterLines = c.failAfterLines;
+            printer.dialogAnswer = choice;
+            printer.failAfterLines = failAfterLines;
             PrintRichText(view, printer);
             QCOMPARE(printer.dialogsShown, std::vector<PrintDialogKind>{PrintDialogKind::RichText});
             QString printed;
             for (const auto& document : printer.documents)
                 printed += document.text + u'|';
-            QCOMPARE(printed + QString::number(printer.jobsEnded), c.printed);
+            QCOMPARE(printed + QString::number(printer.jobsEnded), expected);
         }
     }
 };

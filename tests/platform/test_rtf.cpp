@@ -5,7 +5,6 @@
 #include "platform/rtf_reader.h"
 #include "platform/rtf_writer.h"
 
-#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QFont>
@@ -80,9 +79,7 @@ std::string ReadAndWrittenBack(const std::string& rtf) {
 }
 
 TEST(Rtf, ReadsTheFormatAndWritesItBack) {
-    const struct {
-        std::string rtf, rendered;
-    } cases[] = {
+    const std::pair<std::string, std::string> cases[] = {
         // \plain and \pard reset what a group does not.
         {Header + "\\deftab360\\pard\\qc\\li360\\sb120\\sa240\\tx720\\b\\i\\strike\\super a{\\v "
                   "hidden}\\par b\\plain c\\par\\pard d\\sub e\\nosupersub f\\par}",
@@ -99,18 +96,14 @@ TEST(Rtf, ReadsTheFormatAndWritesItBack) {
          "9 Courier New]gone[s 9 Courier New] x[ 9 Courier New]2[^ 9 Courier New] H[ 9 Courier "
          "New]2[_ 9 Courier New]O a\u00A0b\u00ADc\u2011d[ 9 Courier New]"},
     };
-    for (const auto& c : cases)
-        EXPECT_EQ(ReadAndWrittenBack(c.rtf), c.rendered);
+    for (const auto& [rtf, rendered] : cases)
+        EXPECT_EQ(ReadAndWrittenBack(rtf), rendered);
 }
 
 TEST(Rtf, ReadsTheTextAsTheCandidateSeesItAndWritesItBack) {
     const std::string deep =
         "{\\rtf1 a" + std::string(100000, '{') + "hidden" + std::string(100000, '}') + "b}";
-    const struct {
-        const char* why;
-        std::string rtf;
-        QString text;
-    } cases[] = {
+    const std::tuple<const char*, std::string, QString> cases[] = {
         {"\\u with \\uc", Header + "\\uc1\\u8212? \\uc2\\u233\\'e9\\'e9 x\\uc0\\u65 y}",
          QStringLiteral("\u2014 é xAy")},
         {"Windows-1252, quotes and dashes",
@@ -161,25 +154,21 @@ TEST(Rtf, ReadsTheTextAsTheCandidateSeesItAndWritesItBack) {
          "\\pard\\ls7\\ilvl5 deep}",
          QStringLiteral("deep")},
     };
-    for (const auto& c : cases) {
+    for (const auto& [why, rtf, text] : cases) {
         QTextDocument original, loaded;
-        readRtf(c.rtf, original);
-        EXPECT_EQ(plainTextOf(original), c.text) << c.why;
+        readRtf(rtf, original);
+        EXPECT_EQ(plainTextOf(original), text) << why;
         readRtf(writeRtf(original), loaded);
-        EXPECT_EQ(plainTextOf(loaded), c.text) << c.why;
+        EXPECT_EQ(plainTextOf(loaded), text) << why;
     }
 }
 
 // A PNG picture at its goal size (120 twips: 8 pixels wide), a metafile left out.
 TEST(Rtf, ReadsPictures) {
-    QImage image(4, 3, QImage::Format_RGB32);
-    image.fill(Qt::blue);
-    QByteArray png;
-    QBuffer buffer(&png);
-    image.save(&buffer, "PNG");
-    QTextDocument document;
-    readRtf("{\\rtf1 a{\\pict\\pngblip\\picw4\\pich3\\picwgoal120\\pichgoal90 " +
-                png.toHex().toStdString() + "}b{\\pict\\wmetafile8 0102}c}",
+    QTextDocument document; // a blue PNG of 4 by 3 pixels
+    readRtf("{\\rtf1 a{\\pict\\pngblip\\picw4\\pich3\\picwgoal120\\pichgoal90 89504e470d0a1a0a"
+            "0000000d49484452000000040000000308020000003b9639910000000f4944415478da636060f88f8470"
+            "7100dd490bf58e8d1f080000000049454e44ae426082}b{\\pict\\wmetafile8 0102}c}",
             document);
     QTextCursor cursor(&document);
     cursor.setPosition(2);
