@@ -103,9 +103,16 @@ private Q_SLOTS:
         QVERIFY(p.app->run() == 0 && p.app->find(ScreenName::Pubdat) == nullptr);
     }
 
-    void screensKeepTheirPlace() {
+    void screensKeepTheirPlaceAndAModalOneReturnsOnceClosed() {
         Program p;
         p.app->registry().add(ScreenName::Calculator, [](ScreenContext&) { return new QWidget; });
+        p.app->registry().add(ScreenName::Preferences, [](ScreenContext&) {
+            auto* screen = new QWidget;
+            QTimer::singleShot(50, screen, &QWidget::close);
+            return screen;
+        });
+        p.app->showModal(ScreenName::Preferences);
+        QVERIFY(p.app->find(ScreenName::Preferences) == nullptr);
         SessionState& state = p.app->state();
         state.WindowLeft[CalculatorSlot] = 120;
         state.WindowTop[CalculatorSlot] = 90;
@@ -171,17 +178,6 @@ private Q_SLOTS:
         DeferredSound sound;
         QVERIFY(sound.load());
         sound.tone(440, 20); // silent where the machine has no audio device
-    }
-
-    void modalScreenReturnsWhenClosed() {
-        Program p;
-        p.app->registry().add(ScreenName::Preferences, [](ScreenContext&) {
-            auto* screen = new QWidget;
-            QTimer::singleShot(50, screen, &QWidget::close);
-            return screen;
-        });
-        p.app->showModal(ScreenName::Preferences);
-        QVERIFY(p.app->find(ScreenName::Preferences) == nullptr);
     }
 };
 
