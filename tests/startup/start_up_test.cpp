@@ -102,11 +102,8 @@ struct Case {
     std::string after;
 };
 
-void Earlier(Start& s) {
-    s.folder.write(Progress, HeaderFile());
-}
 void AnotherRun(Start& s) {
-    Earlier(s);
+    s.folder.write(Progress, HeaderFile());
     s.folder.write(Marker, "another run");
 }
 void Backups(Start& s, const std::string& newer) {
@@ -123,29 +120,25 @@ const Case Cases[] = {
      "ended asked 0 backups 0"},
     {"another run cancelled", AnotherRun, "", "C", Running,
      "ended asked 0 marker(another run) progress 940:75:0 backups 0"},
-    {"another run taken on", AnotherRun, "", "O", Running,
-     "ready " + PatDoe + "/75/Courier New asked 0 marker(another run) progress 940:75:0 backups 1"},
-    {"no printer",
-     [](Start& s) {
-         Earlier(s);
-         s.printer.fonts.reset();
-     },
-     "", "",
-     "Printer error (critical ok): There is a problem that will prevent printing. Most likely "
-     "cause is that\r\nyou have not selected a printer from the Windows Control Panel.\r\nOpen "
-     "the Control Panel, double-click the Printers icon, and choose Add to install a printer.\n",
-     "ready " + PatDoe + "/75//no printer asked 0 marker() progress 940:75:0 backups 1"},
-    {"blanks ask again, a name is trimmed and cut", nullptr,
-     "   |   Alexandra Konstantinopoulou-Whitfield", "Y", Confirm(LongName.substr(0, 30)),
+    {"blanks ask again, a name is trimmed and cut; without a printer, printing stays off",
+     [](Start& s) { s.printer.fonts.reset(); }, "   |   Alexandra Konstantinopoulou-Whitfield", "Y",
+     Confirm(LongName.substr(0, 30)) +
+         "Printer error (critical ok): There is a problem that will prevent printing. Most "
+         "likely cause is that\r\nyou have not selected a printer from the Windows Control "
+         "Panel.\r\nOpen the Control Panel, double-click the Printers icon, and choose Add to "
+         "install a printer.\n",
      "ready " + LongName.substr(0, 30) +
-         "/70/Courier New asked 2 marker() notebook progress 940:70:0 backups 1"},
-    {"No, or a name outside the code page, asks again", nullptr,
+         "/70//no printer asked 2 marker() notebook progress 940:70:0 backups 1"},
+    {"No, or a name outside the code page, asks again; the last print font found wins",
+     [](Start& s) {
+         s.printer.fonts = {QStringLiteral("Courier"), QStringLiteral("Terminal")};
+     },
      "Pat Dough|Pat \u0141ukasz|Pat Doe", "NOY",
      Confirm("Pat Dough") +
          "Software User's Name (exclamation ok): The name can use only letters, figures and "
          "signs of Western European languages. Please type it again.\n" +
          Confirm("Pat Doe"),
-     "ready " + PatDoe + "/70/Courier New asked 3 marker() notebook progress 940:70:0 backups 1"},
+     "ready " + PatDoe + "/70/Courier asked 3 marker() notebook progress 940:70:0 backups 1"},
     {"cancel, then exit, leaves a first run", nullptr, "|", "NY", Exit + Exit,
      "ended asked 2 backups 0"},
     {"a folder that cannot be written gives up after a few tries",
@@ -175,18 +168,14 @@ const Case Cases[] = {
          Offer,
      "ready " + PatDoe + "/70/Courier New asked 0 marker() progress 940:70:0 backups 2"},
     {"a grade over a hundred without backups",
-     [](Start& s) {
-         s.folder.write(Progress, HeaderFile(170));
-         s.printer.fonts = {QStringLiteral("Courier"), QStringLiteral("Terminal")};
-     },
-     "", "O",
+     [](Start& s) { s.folder.write(Progress, HeaderFile(170)); }, "", "O",
      Damaged("ok") +
          "No good backup of it was found in the Backups folder. The program will use what "
          "it can read.\n",
-     "ready " + PatDoe + "/170/Courier asked 0 marker() progress 940:170:0 backups 0"},
-    {"a journal left by a crash is replayed",
+     "ready " + PatDoe + "/170/Courier New asked 0 marker() progress 940:170:0 backups 0"},
+    {"another run taken on; a journal left by a crash is replayed",
      [](Start& s) {
-         Earlier(s);
+         AnotherRun(s);
          SessionState running;
          running.CurrentTopic = 2;
          running.TestType = 1;
@@ -195,11 +184,13 @@ const Case Cases[] = {
          running.TestPosition = 2;
          JournalReviewTest(running, s.clock.now());
      },
-     "", "",
-     "Test Recovered! (information ok): The program stopped during a review test and did not "
-     "save it.\r\nYour answers up to the last one were kept. Resume the test from the "
-     "Navigation Screen.\n",
-     "ready " + PatDoe + "/75/Courier New asked 0 marker() progress 1880:75:2 backups 1"},
+     "", "O",
+     Running +
+         "Test Recovered! (information ok): The program stopped during a review test and did not "
+         "save it.\r\nYour answers up to the last one were kept. Resume the test from the "
+         "Navigation Screen.\n",
+     "ready " + PatDoe +
+         "/75/Courier New asked 0 marker(another run) progress 1880:75:2 backups 1"},
 };
 
 TEST(StartUp, TellsExactlyAndLeavesTheFolderAsItShould) {
