@@ -133,7 +133,6 @@ TEST(ExamSession, StepsMoveItemsBetweenTheListsMarkThemUnsureAndEndTheExam) {
         {5, 0, "ABA", "Item 1 of 5 [  A?  (Unsure of Answer)] - >1,2,3,4,5* .BCDN.CFU 0% @Next"},
         {5, 0, "ABAu", "Item 1 of 5 [  A] - >1,2,3,4,5* .BCDN.CFU 0% @Next"},
         {5, 0, "ABAuCuu", "Item 1 of 5 [  C?   (marked unsure)] - >1,2,3,4,5* AB.DN.CFU 0% @Next"},
-        {5, 0, "ABAuCuun", "Item 2 of 5 [  ] 1C? >2,3,4,5* ABCDN.BFU 20% @Next"},
         {5, 0, "ABAuCuunu",
          "Item 2 of 5 [    (Unsure of Answer)] 1C? >2,3,4,5* ABCDN.BFU 20% @Next"},
         {1, 0, "Bnb", "Item 1 of 1 [  B] >1B* - A.CDN.BFU 100% @Next frame blinking dark"},
