@@ -85,14 +85,19 @@ const GalleryEntry scoringPrint("reports_scoring_print", [](GalleryScene& scene)
     });
 });
 
-// Six takes from September to November, the last two a day apart, and the navigator opened on
-// them with the first row's take selected.
+// Ten takes from September to November, six of them of topic 1 so that its chart has to leave
+// out labels that would overlap, the last two a day apart; the navigator opened on them with the
+// first row's take selected.
 Navigator* MidCourse(GalleryScene& scene, ScreenContext& context) {
-    const std::array<std::tuple<const char*, int, float>, 6> takes = {{
+    const std::array<std::tuple<const char*, int, float>, 10> takes = {{
         {"09-14-2026", 1, 0.62F},
         {"09-21-2026", 2, 0.74F},
+        {"09-28-2026", 1, 0.66F},
+        {"10-05-2026", 1, 0.71F},
         {"10-12-2026", 1, 0.86F},
         {"10-30-2026", 4, 0.81F},
+        {"11-02-2026", 1, 0.69F},
+        {"11-09-2026", 1, 0.78F},
         {"11-18-2026", 10, 0.68F},
         {"11-19-2026", 9, 0.7F},
     }};

@@ -300,7 +300,10 @@ private Q_SLOTS:
         QCOMPARE((QList<int>{f->state.TakeCounts[1], f->state.TestPosition}), (QList<int>{0, 6}));
         QCOMPARE(saved(), u"journal"_s);
         open();
+        f->dialogs.answer(MessageAnswer::Cancel); // stays on the last item, nothing saved
         f->dialogs.answer(MessageAnswer::Ok);
+        run(u"n"_s);
+        QCOMPARE(saved(), u"journal"_s);
         run(u"n"_s);
         const ShownMessage& box = f->dialogs.messages().back();
         QVERIFY(box.icon == MessageIcon::Question && box.buttons == MessageButtons::OkCancel);
