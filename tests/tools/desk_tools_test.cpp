@@ -252,10 +252,10 @@ private Q_SLOTS:
              "alarm 5:30:00 PM 63000 ptm||Alarm Clock|tones" + AlarmAsked + "|"},
             // The clock takes the time of day only; not a time gives one message and no new
             // prompt; a cancelled prompt changes nothing.
-            {"type 7:30 PM; click Command1_1; tick 0",
-             "alarm  -1 -t-|7:30:00 PM|Alarm Clock|tones" + ClockAsked + "|"},
-            {"type half past; click Command1_1; click Command1_1",
-             "alarm  -1 -t-||Alarm Clock|tones" + ClockAsked + ClockAsked + "|" + NotValid},
+            {"type half past; click Command1_1; type 7:30 PM; click Command1_1; click Command1_1; "
+             "tick 0",
+             "alarm  -1 -t-|7:30:00 PM|Alarm Clock|tones" + ClockAsked + ClockAsked + ClockAsked +
+                 "|" + NotValid},
             // Closing cancels the alarm and brings the navigation screen back.
             {"menu; type 18:00; click Command1_0; normal; click Command1_2",
              "alarm 6:00:00 PM -1 p-m||Alarm Clock|tones" + AlarmAsked + "|"},
