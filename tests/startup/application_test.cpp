@@ -74,7 +74,6 @@ private Q_SLOTS:
         settle();
         QVERIFY(!title);
         // Closing the navigation screen ends the program and deletes the marker.
-        QVERIFY(p.folder.exists("TesseraAppRunning"));
         p.app->find(ScreenName::ButtonMenu)->close();
         QVERIFY(p.app->ended() && !p.folder.exists("TesseraAppRunning") &&
                 p.app->find(ScreenName::ButtonMenu) == nullptr);
