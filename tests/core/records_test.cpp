@@ -60,10 +60,7 @@ TEST(Records, FieldsStandAtTheirOffsets) {
              t.TriesRatio, t.Scrambled, t.MinutesUsed, t.Tally, t.WishesLeft) =
         std::tuple(4, "11-19-2026", 0x0102, -2, 40, 3, 0.5f, 2.0f, 1, 64.0f,
                    std::array<int16_t, 4>{0, 9, 10, 12}, std::array<uint8_t, 4>{0, 1, 0, 2});
-    t.Items[1] = 796;
-    t.Items[300] = 7;
-    t.Misses[1] = 2;
-    t.Misses[300] = 4;
+    std::tie(t.Items[1], t.Items[300], t.Misses[1], t.Misses[300]) = std::tuple(796, 7, 2, 4);
     EXPECT_EQ(Layout(EncodeReviewTest(t)), " 0:04'11-19-2026'0201feff28 17:03 21:3f 25:4001 "
                                            "29:804209 33:0a 35:0c 37:01 39:021c03 638:07 "
                                            "640:02 939:04");
@@ -72,10 +69,7 @@ TEST(Records, FieldsStandAtTheirOffsets) {
     std::tie(e.Kind, e.Position, e.ItemCount, e.AnsweredCount, e.ExamType, e.Score, e.UnsureCount,
              e.Scrambled, e.MinutesUsed, e.TimeLimit, e.Structured) =
         std::tuple(12, 7, 150, 149, 6, 1.0f, 3, 1, 2.0f, 195, 1);
-    e.Topics[1] = 1;
-    e.Topics[9] = 1;
-    e.Items[2] = 300;
-    e.AnswerCodes[2] = 80;
+    std::tie(e.Topics[1], e.Topics[9], e.Items[2], e.AnswerCodes[2]) = std::tuple(1, 1, 300, 80);
     EXPECT_EQ(Layout(EncodeExam(e)), " 0:0c 11:07 13:96 15:95 17:06 20:803f03 24:01 "
                                      "28:40c30101 39:01 42:2c01 641:50");
     // Answer codes as answer, right or wrong, answers given, unsure: six bands of five, 63 added
@@ -104,8 +98,7 @@ TEST(Records, RunsGoToTheirRecordsAndComeBack) {
               std::tuple(1.5f, 90.0f, 77));
 
     std::tie(state.ExamKind, state.ExamType, state.ExamItemCount, state.ExamPosition,
-             state.ExamStructured) = std::tuple(2, 5, 4, 2, 1);
-    state.ExamTopics[4] = false;
+             state.ExamStructured, state.ExamTopics[4]) = std::tuple(2, 5, 4, 2, 1, false);
     state.ExamItems = {0, 11, 12, 13, 14};
     state.ExamKey = {0, 1, 2, 3, 4};
     state.ExamAnswered = {0, 1, 1, 0, 1};

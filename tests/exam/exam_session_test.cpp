@@ -150,8 +150,9 @@ TEST(ExamSession, StepsMoveItemsBetweenTheListsMarkThemUnsureAndEndTheExam) {
     }
 }
 
-// A retake keeps the items the report card chose; the answers of the last sitting go.
-TEST(ExamSession, RetakeKeepsItsItemsAndClearsTheAnswers) {
+// A retake keeps the items the report card chose; the answers of the last sitting go. Closed with
+// nothing committed, it leaves no record and no results.
+TEST(ExamSession, RetakeKeepsItsItemsClearsTheAnswersAndWithNothingCommittedLeavesNoRecord) {
     Exam exam(3);
     SessionState& s = exam.state;
     s.ExamType = 4;
@@ -161,6 +162,9 @@ TEST(ExamSession, RetakeKeepsItsItemsAndClearsTheAnswers) {
     EXPECT_EQ(std::tuple(s.ExamItems[1], s.ExamItems[3], s.ExamAnswers[1], s.ExamUnsure[2],
                          s.ExamAnswered[3], s.ExamAnswerCounts[3]),
               std::tuple(11, 13, 0, 0, 0, 0));
+    exam.session->pressAnswer(0); // answered, never committed
+    EXPECT_EQ(exam.Filed(exam.Close(true)), "|1 records, 0 exam|log 0 0|takes 0|suspended 0 0|0 1");
+    EXPECT_EQ(s.ExamPosition, 0);
 }
 
 TEST(ExamSession, FinishedAsksWithTheRemainingCountAndCancelStopsTheClock) {
@@ -191,13 +195,6 @@ TEST(ExamSession, FinishedAsksWithTheRemainingCountAndCancelStopsTheClock) {
     EXPECT_NEAR(exam.state.ExamElapsed * 86400.0, 90.0, 1e-3);
     s.selectRow(RemainingList, 0); // list clicks do nothing while closing
     EXPECT_EQ(exam.state.ExamPosition, 2);
-}
-
-TEST(ExamEnd, NothingCommittedLeavesNoRecordAndNoResults) {
-    Exam e;
-    e.open().pressAnswer(0); // answered, never committed
-    EXPECT_EQ(e.Filed(e.Close(true)), "|1 records, 0 exam|log 0 0|takes 0|suspended 0 0|0 1");
-    EXPECT_EQ(e.state.ExamPosition, 0);
 }
 
 TEST(ExamEnd, BelowThirtyPercentIsRemovedButLogged) {
