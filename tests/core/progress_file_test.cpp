@@ -152,8 +152,7 @@ Outcome RunWith(const Operation& operation, Fault fault, int at) {
     {
         FaultyFiles files(fault, at);
         operation.run(state);
-        outcome.steps = files.steps();
-        outcome.writes = files.writes();
+        std::tie(outcome.steps, outcome.writes) = std::tuple(files.steps(), files.writes());
     }
     RecoverProgressFile();
     outcome.progress = folder.read(ProgressFile);
@@ -301,13 +300,11 @@ TEST_F(ProgressFileTest, WholeJournalsBecomeTheSuspendedRunAndOthersAreDropped) 
         const Replayed replayed = ReplayJournal(next, Today);
         EXPECT_FALSE(own.exists(JournalFile));
         const SessionState later = Restarted();
-        EXPECT_EQ(std::to_string(static_cast<int>(replayed)) + ": " +
-                      Sketch(own.read(ProgressFile)) + ", test at " +
-                      std::to_string(later.TestPosition) + " tally " +
-                      std::to_string(later.TestTally[3]) + ", exam at " +
-                      std::to_string(later.ExamPosition) + " answer " +
-                      std::to_string(later.ExamAnswers[2]),
-                  restored);
+        std::ostringstream seen;
+        seen << static_cast<int>(replayed) << ": " << Sketch(own.read(ProgressFile)) << ", test at "
+             << later.TestPosition << " tally " << later.TestTally[3] << ", exam at "
+             << later.ExamPosition << " answer " << later.ExamAnswers[2];
+        EXPECT_EQ(seen.str(), restored);
         EXPECT_TRUE(replayed != Replayed::Nothing || own.read(ProgressFile) == saved);
     }
 }
