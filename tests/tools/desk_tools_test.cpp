@@ -190,9 +190,8 @@ private Q_SLOTS:
              "closed | 0110 85 help 1 | file 0 1 1 0 85 |  | "},
             {"click Check2; full; click Command1",
              "closed | 1110 70 help 1 | file 1 0 1 0 70 |  | Preferences Not Saved (critical ok): "
-             "Your "
-             "preferences could not be written to TesseraConfig.MS. They hold until you quit; make "
-             "sure the study folder can be written to, then save them again."},
+             "Your preferences could not be written to TesseraConfig.MS. They hold until you "
+             "quit; make sure the study folder can be written to, then save them again."},
             {"click Check2; answer No; click Command2",
              "closed | 1010 70 help 1 | file 1 0 1 0 70" + SaveAsked},
             {"click Check2; answer Yes; click Command2",
@@ -209,9 +208,9 @@ private Q_SLOTS:
         const std::pair<std::string, std::string> cases[] = {
             // "0" on "0." does nothing at all, not even move the focus.
             {"focus Command1_3; click Number_0", "0.||Command1_3|clears 0|help 1||"},
-            // A digit leaves the focus on "=", so Enter means "=" after a number.
-            {"keys 2+3x4; key Return", "20||Operator_4|clears 0|help 1||"},
-            {"focus Number_7; key Return", "7.||Operator_4|clears 0|help 1||"},
+            // Enter presses the focused button, which after a digit is "="; no operator goes first.
+            {"focus Number_7; key Return; keys +3x4; key Return",
+             "40||Operator_4|clears 0|help 1||"},
             {"keys 9; key F9; key Ctrl+M; key Esc; key Ctrl+R",
              "9|Mem:  9|Number_10|clears 0|help 1||"},
             {"keys 9; key Ctrl+P; key Ctrl+C", "9.|Mem:  9|closed|clears 0|help 1||"},
