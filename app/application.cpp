@@ -2,6 +2,7 @@
 
 #include "app/real_services.h"
 #include "app/screen_registrations.h"
+#include "core/window_place.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -195,11 +196,7 @@ void Application::storeWindowPlace(ScreenName name, const QWidget* screen) {
     const int slot = WindowSlotOf(name);
     if (slot == 0)
         return;
-    const QPoint place = screen->isMaximized() || screen->isMinimized()
-                             ? screen->normalGeometry().topLeft()
-                             : screen->pos();
-    m_state.WindowLeft[slot] = static_cast<int16_t>(place.x());
-    m_state.WindowTop[slot] = static_cast<int16_t>(place.y());
+    StoreWindowPlace(m_state, slot, *screen);
 }
 
 } // namespace tessera

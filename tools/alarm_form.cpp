@@ -2,6 +2,7 @@
 
 #include "core/screen_colours.h"
 #include "core/screen_text.h"
+#include "core/window_place.h"
 #include "platform/clock.h"
 #include "platform/control_names.h"
 #include "platform/dialogs.h"
@@ -131,9 +132,7 @@ void AlarmForm::alarmWaiting() {
 }
 
 void AlarmForm::storePosition() {
-    const QPoint place = isMinimized() || isMaximized() ? normalGeometry().topLeft() : pos();
-    m_context.state.WindowLeft[AlarmFormSlot] = static_cast<int16_t>(place.x());
-    m_context.state.WindowTop[AlarmFormSlot] = static_cast<int16_t>(place.y());
+    StoreWindowPlace(m_context.state, AlarmFormSlot, *this);
 }
 
 void AlarmForm::Timer1_Timer() {
