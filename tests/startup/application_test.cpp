@@ -153,7 +153,6 @@ private Q_SLOTS:
             text += "\r\n\\par Line " + std::to_string(line);
         text += "\r\n\\par }\r\n";
         auto* help = qobject_cast<Help*>(s.app->show(ScreenName::Help));
-        QVERIFY(help != nullptr);
         RichTextView* view = help->RichTextBox1;
         view->verticalScrollBar()->setValue(
             view->cursorRect(view->document()->find(QStringLiteral("Line 64"))).top());

@@ -72,11 +72,10 @@ TEST(CalculatorMachine, KeysGiveTheReadoutMemoryAndMessages) {
 TEST(NumericText, ReadsTheLongestPrefixAndWritesFifteenDigits) {
     const std::pair<const char*, double> read[] = {
         {"12.", 12}, {"-3.5x", -3.5}, {"1E+20", 1e20}, {"  7E", 7},
-        {"", 0},     {"abc", 0},      {"1E-400", 0},
+        {"", 0},     {"abc", 0},      {"1E-400", 0},   {"-1E+400", -HUGE_VAL},
     };
     for (const auto& [text, value] : read)
         EXPECT_EQ(NumericValue(text), value) << text;
-    EXPECT_TRUE(std::isinf(NumericValue("-1E+400")));
     EXPECT_EQ(FloatText(5) + " " + FloatText(0.5) + " " + FloatText(1e20) + " " + FloatText(-0.0) +
                   " " + FloatText(123456789012345678.0),
               "5 0.5 1E+20 0 1.23456789012346E+17");

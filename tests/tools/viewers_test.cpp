@@ -39,7 +39,6 @@ struct Viewer : ScreenFixture {
                           QTest::mouseClick(viewing->Command3[letter[0].unicode() - 'A'],
                                             Qt::LeftButton);
                   })
-            .with("topic", [this](const QString& topic) { state.HelpTopic = topic.toShort(); })
             .with("noprinter", [this](const QString&) { state.PrinterProblem = true; })
             .run(steps);
         return rendered();
@@ -182,7 +181,7 @@ private Q_SLOTS:
             // A discussion text takes no typing; its help is topic 4, and a help window on
             // another topic goes first. Without a printer, printing is off.
             {"noprinter; open 3; focus RichTextBox1; keys xyz; focus RichTextBox2; keys A; "
-             "topic 9; click Command1_3; click Command1_3",
+             "click Command1_3; click Command1_3",
              "About Orlanda Academy|RichTextBox1|Discussion 3: read it twice.||-xxx...|off "
              "ABCDEFGHIJKLMNOPQRSTUVWXYZ|help 4|unload Help, show Help, show Help|"},
         };
