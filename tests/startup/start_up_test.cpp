@@ -2,13 +2,14 @@
 // it shows, and what the session and the folder hold afterwards.
 
 #include "core/new_notebook.h"
-#include "core/progress_backups.h"
 #include "core/progress_file.h"
 #include "core/records.h"
 #include "core/run_journal.h"
 #include "core/start_up.h"
 #include "tests/support/study_folder.h"
 #include "tests/support/test_services.h"
+
+#include <QDir>
 
 #include <gtest/gtest.h>
 
@@ -42,14 +43,7 @@ struct Start : TestServices {
         state = SessionState{};
         return StartUp(state, services).run();
     }
-    std::vector<std::string> backups() const {
-        std::vector<std::string> names;
-        std::error_code absent;
-        for (const auto& entry : std::filesystem::directory_iterator("Backups", absent))
-            names.push_back(entry.path().filename().string());
-        std::sort(names.begin(), names.end());
-        return names;
-    }
+    QStringList backups() const { return QDir(QStringLiteral("Backups")).entryList(QDir::Files); }
     // The outcome, the user and options taken, the names asked, and the folder's files: the
     // progress file's size, passing grade and suspended test record.
     std::string after(StartUpOutcome outcome) const {
@@ -62,8 +56,6 @@ struct Start : TestServices {
             text += " marker(" + folder.read(Marker) + ")";
         if (folder.exists(NoteBook))
             text += " notebook";
-        if (folder.exists(JournalFile))
-            text += " journal";
         if (const std::string p = folder.exists(Progress) ? folder.read(Progress) : ""; !p.empty())
             text += " progress " + std::to_string(p.size()) + ":" + std::to_string(uint8_t(p[4])) +
                     ":" + std::to_string(p[5]);
@@ -112,8 +104,6 @@ void Backups(Start& s, const std::string& newer) {
     s.folder.write("Backups/TesseraConfig 2026-11-18 10-00-00.MS", newer);
 }
 
-const std::string LongName = "Alexandra Konstantinopoulou-Whitfield";
-
 const Case Cases[] = {
     {"no content file", [](Start&) { std::filesystem::remove("Tessera"); }, "", "",
      "Missing File Detected! (critical ok): Fatal Error. This Software must be reinstalled.\n",
@@ -122,13 +112,13 @@ const Case Cases[] = {
      "ended asked 0 marker(another run) progress 940:75:0 backups 0"},
     {"blanks ask again, a name is trimmed and cut; without a printer, printing stays off",
      [](Start& s) { s.printer.fonts.reset(); }, "   |   Alexandra Konstantinopoulou-Whitfield", "Y",
-     Confirm(LongName.substr(0, 30)) +
+     Confirm("Alexandra Konstantinopoulou-Wh") +
          "Printer error (critical ok): There is a problem that will prevent printing. Most "
          "likely cause is that\r\nyou have not selected a printer from the Windows Control "
          "Panel.\r\nOpen the Control Panel, double-click the Printers icon, and choose Add to "
          "install a printer.\n",
-     "ready " + LongName.substr(0, 30) +
-         "/70//no printer asked 2 marker() notebook progress 940:70:0 backups 1"},
+     "ready Alexandra Konstantinopoulou-Wh/70//no printer asked 2 marker() notebook progress "
+     "940:70:0 backups 1"},
     {"No, or a name outside the code page, asks again; the last print font found wins",
      [](Start& s) {
          s.printer.fonts = {QStringLiteral("Courier"), QStringLiteral("Terminal")};
@@ -249,7 +239,7 @@ TEST(StartUp, FirstStartOfADayAndEveryRewriteKeepTheNewestTenBackups) {
     s.dialogs.answer(MessageAnswer::Ok); // to the marker the first start left
     s.clock.advanceSeconds(3600);
     ASSERT_EQ(s.run(), StartUpOutcome::Ready); // the same day: no second backup
-    EXPECT_EQ(s.backups(), std::vector<std::string>{"TesseraConfig 2026-11-19 09-00-00.MS"});
+    EXPECT_EQ(s.backups().join(u',').toStdString(), "TesseraConfig 2026-11-19 09-00-00.MS");
     EXPECT_EQ(s.folder.read("Backups/TesseraConfig 2026-11-19 09-00-00.MS"), HeaderFile(70, 1));
 
     for (int minute = 1; minute <= 11; ++minute) {
@@ -257,9 +247,10 @@ TEST(StartUp, FirstStartOfADayAndEveryRewriteKeepTheNewestTenBackups) {
         ASSERT_EQ(RewriteProgressFile(s.state, std::vector<ExamRecord>{}, s.clock.now()),
                   SaveStatus::Saved);
     }
-    const std::vector<std::string> kept = s.backups();
-    EXPECT_EQ(kept.front() + " .. " + kept.back() + " " + std::to_string(kept.size()),
-              "TesseraConfig 2026-11-20 08-02-00.MS .. TesseraConfig 2026-11-20 08-11-00.MS 10");
+    const QStringList kept = s.backups();
+    EXPECT_EQ(
+        QStringLiteral("%1 .. %2 %3").arg(kept.first(), kept.last()).arg(kept.size()).toStdString(),
+        "TesseraConfig 2026-11-20 08-02-00.MS .. TesseraConfig 2026-11-20 08-11-00.MS 10");
 }
 
 } // namespace

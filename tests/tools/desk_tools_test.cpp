@@ -135,9 +135,8 @@ struct Alarm : ScreenFixture {
         return rendered();
     }
     // The alarm shown and set, and whether its picture shows (p), the clock ticks (t) and the
-    // minimized title may show it (m); the time and the title; the tones; the input boxes; the
-    // messages. The navigation screen is left minimized only where a test minimized it and
-    // nothing brought it back.
+    // minimized title may show it (m); the time and the title; the tones; the input boxes; a
+    // navigation screen left minimized; the messages.
     std::string rendered() const {
         QString text =
             u"alarm %1 %2 "_s.arg(form->Label1->text()).arg(form->alarmTime().value_or(-1));
