@@ -256,10 +256,7 @@ void ReportCard::changeEvent(QEvent* event) {
 // Closing the window past "&Done" drops any erasures. The application object keeps the
 // window's place in its slot.
 void ReportCard::closeEvent(QCloseEvent* event) {
-    if (isMinimized())
-        showNormal();
-    m_context.screens.setNavigationEnabled(true);
-    m_context.screens.restoreNavigation();
+    m_context.screens.handBackNavigation(*this);
     event->accept();
 }
 

@@ -29,7 +29,10 @@ void ScreenHost::setNavigationEnabled(bool enabled) {
         menu->setEnabled(enabled);
 }
 
-void ScreenHost::restoreNavigation() {
+void ScreenHost::handBackNavigation(QWidget& closing) {
+    if (closing.isMinimized())
+        closing.showNormal();
+    setNavigationEnabled(true);
     QWidget* menu = find(ScreenName::ButtonMenu);
     if (menu != nullptr && menu->isMinimized())
         menu->showNormal();

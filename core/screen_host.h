@@ -101,8 +101,10 @@ public:
     void refreshNavigation();
     // A test, an exam or a report card holds the navigation screen disabled while it is open.
     void setNavigationEnabled(bool enabled);
-    // Brings the navigation screen back if it is minimised.
-    void restoreNavigation();
+    // A screen that held the navigation screen disabled hands it back as it closes: the closing
+    // screen out of a minimised state, the navigation screen enabled and brought back if it is
+    // minimised.
+    void handBackNavigation(QWidget& closing);
     // Sets the navigation screen's window state to normal.
     void showNavigationNormal();
     // The navigation screen's option that is no option, as if the user had chosen it.

@@ -225,11 +225,7 @@ void ExamSet::showEvent(QShowEvent* event) {
 }
 
 void ExamSet::closeEvent(QCloseEvent* event) {
-    if (isMinimized()) {
-        showNormal();
-    }
-    m_context.screens.setNavigationEnabled(true);
-    m_context.screens.restoreNavigation();
+    m_context.screens.handBackNavigation(*this);
     event->accept();
 }
 

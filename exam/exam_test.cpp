@@ -306,11 +306,7 @@ void ExamTest::Form_Unload() {
     Timer2->stop();
     ScreenHost& screens = m_context.screens;
     screens.unload(ScreenName::PictForm);
-    if (isMinimized()) {
-        showNormal();
-    }
-    screens.setNavigationEnabled(true);
-    screens.restoreNavigation();
+    screens.handBackNavigation(*this);
     const int committed = m_session.list(AnsweredList).rows();
     const ExamEndOutcome end = EndExam(m_context.state, m_session.examFinished(), committed,
                                        m_context.services.clock.now(), m_context.services.dialogs,

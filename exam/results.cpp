@@ -197,11 +197,7 @@ void Results::changeEvent(QEvent* event) {
 
 void Results::closeEvent(QCloseEvent* event) {
     m_context.screens.unload(ScreenName::PictForm);
-    if (isMinimized()) {
-        showNormal();
-    }
-    m_context.screens.setNavigationEnabled(true);
-    m_context.screens.restoreNavigation();
+    m_context.screens.handBackNavigation(*this);
     event->accept();
 }
 
