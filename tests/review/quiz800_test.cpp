@@ -83,7 +83,7 @@ private:
             else
                 dialog->Command1[step == '0' || step == 'h' ? 1 : 0]->click();
         });
-        click(5);
+        click(ReviewCommand::Aladdin);
     }
     // Steps: 'A' to 'D' click an answer, 'a' to 'd' type it; 'r' clicks the right answer, 'x' a
     // wrong one; 'n' Next, 'p' Previous, 'k' Break or Cancel, 'q' closes; the rest open Aladdin.
@@ -98,7 +98,9 @@ private:
             else if (step == 'r' || step == 'x')
                 click(step == 'r' ? right() : wrong(0));
             else if (step == 'n' || step == 'p' || step == 'k')
-                click(step == 'n' ? 6 : step == 'p' ? 11 : 7);
+                click(step == 'n'   ? ReviewCommand::Next
+                      : step == 'p' ? ReviewCommand::Previous
+                                    : ReviewCommand::Break);
             else if (step == 'q')
                 quiz->close();
             else
@@ -116,9 +118,11 @@ private:
     // The feedback; the commands A to D, Wish, Next or Done, Cancel or Break, Previous and
     // pIcture, small when closed; the panel's figures; the wishes left.
     QString view() const {
-        const QString letters = u"ABCDW"_s + (button(6)->text() == u"&Done"_s ? u'D' : u'N') +
-                                (button(7)->text() == u"&Break"_s ? u'B' : u'C') + u"PI"_s;
-        const std::array<int, 9> shown = {0, 1, 2, 3, 5, 6, 7, 11, 12};
+        using C = ReviewCommand;
+        const QString letters = u"ABCDW"_s + (button(C::Next)->text() == u"&Done"_s ? u'D' : u'N') +
+                                (button(C::Break)->text() == u"&Break"_s ? u'B' : u'C') + u"PI"_s;
+        const std::array<int, 9> shown = {C::AnswerA, 1,        2,           C::AnswerD, C::Aladdin,
+                                          C::Next,    C::Break, C::Previous, C::Picture};
         QString commands;
         for (size_t k = 0; k < shown.size(); ++k)
             commands += button(shown[k])->isEnabled() ? letters[k] : letters[k].toLower();
