@@ -83,6 +83,7 @@ struct SessionState {
     int16_t HelpTopic = 1;
     int16_t ViewerSection = 1;
     bool NoteBookChanged = false;
+    int CursorPosition = 0; // the notebook's, where it stood when the notebook was last closed
     CalculatorKept Calculator;
 
     // ProgressHeader, ReviewTestRecord and ExamRecord: scratch buffers of the file operations.

@@ -28,9 +28,6 @@ constexpr const char* NoteBookNotSavedMessage =
     "Your notebook could not be written to TesseraNoteBook.RTF. Make sure the study folder can "
     "be written to and has room, then save your notes again.";
 
-// Where the cursor stood when the notebook was last closed, kept for the whole run.
-int CursorPosition = 0;
-
 QString FileName(const SessionState& state) {
     return QString::fromStdString(state.catalogue.NoteBookFileName);
 }
@@ -46,7 +43,7 @@ NoteBook::NoteBook(ScreenContext& context) : m_context(context) {
     RichTextBox1->loadFile(FileName(state));
     if (state.PrinterProblem)
         Command1[1]->setEnabled(false);
-    RichTextBox1->setSelStart(CursorPosition);
+    RichTextBox1->setSelStart(state.CursorPosition);
     state.NoteBookChanged = false;
     // Every edit changes the text, whether typed, pasted, cut, undone or dropped with the mouse.
     connect(RichTextBox1->document(), &QTextDocument::contentsChange, this,
@@ -186,7 +183,7 @@ void NoteBook::closeEvent(QCloseEvent* event) {
         }
     }
     state.NoteBookChanged = false;
-    CursorPosition = RichTextBox1->selStart();
+    state.CursorPosition = RichTextBox1->selStart();
     setWindowState(Qt::WindowNoState);
     event->accept();
 }
