@@ -44,8 +44,10 @@ private Q_SLOTS:
 
     void builderTakesACustomExam() {
         f->state.TakeCounts[10] = 3;
+        f->state.ExamStructured = 1;
         ExamSet set(f->context);
         set.show();
+        QVERIFY(Control<QRadioButton>(&set, "Option1_0")->isChecked()); // structured, as last taken
         QTest::mouseClick(Control<QRadioButton>(&set, "Option3_2"), Qt::LeftButton);
         for (int i : {0, 1, 2, 3, 4, 5, 6, 7, 8, 2}) {
             ClickAtLeft(Control<QCheckBox>(&set, QStringLiteral("Check2_%1").arg(i)));

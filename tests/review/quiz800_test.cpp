@@ -318,6 +318,17 @@ private Q_SLOTS:
         QCOMPARE(f->state.TakeCounts[1], 1);
     }
 
+    void aPassedDrillEndsOnTheExclamationBox() {
+        open(1);
+        f->dialogs.answer(MessageAnswer::Ok);
+        run(u"rnrnrnrnrnrn"_s);
+        const ShownMessage& box = f->dialogs.messages().back();
+        QVERIFY(box.icon == MessageIcon::Exclamation);
+        QCOMPARE(
+            box.title + u": "_s + box.text,
+            u"Finished: Congratulations! You passed this review test.\r\nYou missed 0 questions."_s);
+    }
+
     // Topic 1 broken off or closed, and opened again in the same run or in a new one.
     void breakingOffAndComingBack_data() {
         QTest::addColumn<bool>("retake"); // of the missed items of 100, one 50:50 spent
