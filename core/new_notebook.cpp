@@ -6,8 +6,8 @@ namespace {
 
 // An empty document in bold Arial of 11.5 points, its paragraph left open.
 constexpr const char* NoteBookPrologue[] = {
-    "{\\rtf1\\ansi\\deff0\\deflang1033{\\fonttbl{\\f0\\fswiss Arial;}}",
-    "\\viewkind4\\uc1\\pard\\b\\f0\\fs23 ",
+    R"({\rtf1\ansi\deff0\deflang1033{\fonttbl{\f0\fswiss Arial;}})",
+    R"(\viewkind4\uc1\pard\b\f0\fs23 )",
 };
 
 constexpr int BlankLinesPerTopic = 4;
@@ -42,7 +42,7 @@ std::string NewNoteBookText(const CourseCatalogue& catalogue, const std::string&
     line("\\b\\qc Review Notes for the");
     line("\\par Orlanda Academy Salesperson Tessera");
     line("\\par " + catalogue.SecondTitleLine);
-    line("\\par \\pard\\plain Notebook prepared by " + RtfEscaped(userName));
+    line(R"(\par \pard\plain Notebook prepared by )" + RtfEscaped(userName));
     line("\\par ");
     for (int t = 1; t <= TopicCount; ++t) {
         line("\\par " + catalogue.TopicTitles[t]);

@@ -6,6 +6,7 @@
 
 #include <QDateTime>
 
+#include <algorithm>
 #include <cctype>
 #include <cmath>
 
@@ -103,11 +104,12 @@ bool ProgressFileDamaged(const std::string& bytes) {
 }
 
 std::string NewestGoodBackup() {
-    const std::vector<std::string> names = Backups();
-    for (auto name = names.rbegin(); name != names.rend(); ++name) {
-        const std::optional<std::string> bytes = Files().read(InFolder(*name));
+    std::vector<std::string> names = Backups();
+    std::reverse(names.begin(), names.end()); // the newest first
+    for (const std::string& name : names) {
+        const std::optional<std::string> bytes = Files().read(InFolder(name));
         if (bytes && !bytes->empty() && !ProgressFileDamaged(*bytes))
-            return InFolder(*name);
+            return InFolder(name);
     }
     return {};
 }

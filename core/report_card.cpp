@@ -16,15 +16,15 @@
 namespace tessera {
 
 ReportCard::ReportCard(ScreenContext& context, Design design, std::vector<QLabel*> heads,
-                       QLabel* totals, QLabel* topic, std::vector<QLabel*> notes)
+                       QLabel* totals, QLabel* topic, const std::vector<QLabel*>& notes)
     : m_context(context), m_design(std::move(design)), m_heads(std::move(heads)), m_totals(totals),
       m_topic(topic) {
     m_context.screens.setNavigationEnabled(false);
     setWindowTitle(QString::fromLatin1(m_design.caption));
-    buildLayout(std::move(notes));
+    buildLayout(notes);
 }
 
-void ReportCard::buildLayout(std::vector<QLabel*> notes) {
+void ReportCard::buildLayout(const std::vector<QLabel*>& notes) {
     m_headStrip = new QWidget;
     for (size_t i = 0; i < m_heads.size(); ++i) {
         m_heads[i]->setParent(m_headStrip);

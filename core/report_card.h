@@ -63,7 +63,7 @@ protected:
     // Builds the window around the card's own labels: `heads` stand over the columns, `totals`
     // under the list, `topic` and the notes on the left below it.
     ReportCard(ScreenContext& context, Design design, std::vector<QLabel*> heads, QLabel* totals,
-               QLabel* topic, std::vector<QLabel*> notes);
+               QLabel* topic, const std::vector<QLabel*>& notes);
 
     // The end of Form_Load, once the rows are read: earliest first and the first row
     // selected, or the commands that need a row disabled.
@@ -98,7 +98,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    void buildLayout(std::vector<QLabel*> notes);
+    void buildLayout(const std::vector<QLabel*>& notes);
     void alignHeads();
     void FillList();
     void List1_Click(int row);

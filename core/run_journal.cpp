@@ -81,7 +81,7 @@ Replayed ReplayJournal(SessionState& state, DateValue today) {
     }
     RecordBytes record{};
     std::copy_n(bytes->begin(), RecordSize, record.begin());
-    const int16_t replaces = static_cast<int16_t>(Int16At(*bytes, RecordSize));
+    const auto replaces = static_cast<int16_t>(Int16At(*bytes, RecordSize));
     const bool exam = IsExamByte(record[0]);
     // The record it replaces must still be the suspended one of its kind; otherwise it is new.
     const int16_t suspended = exam ? state.SuspendedExamRecord : state.SuspendedTestRecord;

@@ -44,7 +44,8 @@ Converted convert(iconv_t cd, const char* bytes, std::size_t size) {
     return {QString::fromUtf16(out, units), error};
 }
 
-const iconv_t NoConverter = reinterpret_cast<iconv_t>(-1);
+// iconv_open's own failure value.
+const iconv_t NoConverter = reinterpret_cast<iconv_t>(-1); // NOLINT(performance-no-int-to-ptr)
 
 } // namespace
 

@@ -40,7 +40,7 @@ RtfParser::RtfParser(std::string_view rtf, QTextDocument& document)
 void RtfParser::read() {
     m_cursor.beginEditBlock();
     while (m_p < m_end) {
-        const unsigned char c = static_cast<unsigned char>(*m_p);
+        const auto c = static_cast<unsigned char>(*m_p);
         if (c == '{') {
             ++m_p;
             openGroup();
@@ -103,7 +103,7 @@ void RtfParser::textBytes() {
         return;
     }
     while (m_p < m_end) {
-        const unsigned char c = static_cast<unsigned char>(*m_p);
+        const auto c = static_cast<unsigned char>(*m_p);
         if (c == '{' || c == '}' || c == '\\' || c == '\r' || c == '\n')
             return;
         ++m_p;

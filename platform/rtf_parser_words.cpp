@@ -386,7 +386,7 @@ void RtfParser::setDestination(RtfWord word) {
 void RtfParser::byte(unsigned char c) {
     const CodePage& page = *m_state.codePage;
     if (m_pendingLead >= 0) {
-        const unsigned char lead = static_cast<unsigned char>(m_pendingLead);
+        const auto lead = static_cast<unsigned char>(m_pendingLead);
         m_pendingLead = -1;
         for (QChar unit : page.pair(lead, c))
             character(unit.unicode());
@@ -429,7 +429,7 @@ void RtfParser::plainBytes() {
     const CodePage& page = *m_state.codePage;
     bool started = false;
     while (m_p < m_end) {
-        const unsigned char c = static_cast<unsigned char>(*m_p);
+        const auto c = static_cast<unsigned char>(*m_p);
         if (c == '{' || c == '}' || c == '\\' || c == '\r' || c == '\n')
             return;
         ++m_p;

@@ -259,7 +259,7 @@ void RtfWriter::text(QStringView text) {
 }
 
 void RtfWriter::picture(const QTextImageFormat& format) {
-    const QImage image =
+    const auto image =
         m_document.resource(QTextDocument::ImageResource, QUrl(format.name())).value<QImage>();
     if (image.isNull())
         return;
@@ -295,7 +295,7 @@ int RtfWriter::colourIndex(const QColor& colour) {
 }
 
 std::string RtfWriter::header() const {
-    std::string header = "{\\rtf1\\ansi\\deff0\\deflang1033{\\fonttbl";
+    std::string header = R"({\rtf1\ansi\deff0\deflang1033{\fonttbl)";
     for (qsizetype i = 0; i < m_fonts.size(); ++i) {
         // A name read from a damaged table may hold what would end the entry or the group.
         std::string name = toWindows1252(m_fonts[i]);

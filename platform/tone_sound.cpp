@@ -30,9 +30,9 @@ QAudioFormat toneFormat() {
 
 QByteArray SineSamples(int hertz, int milliseconds, int sampleRate) {
     const int count = std::max(0, static_cast<int>(int64_t{milliseconds} * sampleRate / 1000));
-    QByteArray bytes(count * 2, Qt::Uninitialized);
+    QByteArray bytes(qsizetype{count} * 2, Qt::Uninitialized);
     const int fade = std::min(FadeSamples, count / 2);
-    for (int i = 0; i < count; ++i) {
+    for (qsizetype i = 0; i < count; ++i) {
         double envelope = 1.0;
         if (fade > 0)
             envelope = std::min({1.0, double(i) / fade, double(count - 1 - i) / fade});

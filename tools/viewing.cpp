@@ -129,7 +129,8 @@ void Viewing::fitGlossaryBoxes() {
     // Both boxes grow with the window from their heights at its opening size, so that a
     // maximised glossary shows more of a long definition and term.
     const double grown = std::max(1.0, height() / static_cast<double>(GlossaryHeight));
-    RichTextBox1->setFixedHeight(static_cast<int>(2000 / TwipsPerPixel * grown));
+    const int definitionHeight = 2000 / TwipsPerPixel; // whole pixels, as at the opening size
+    RichTextBox1->setFixedHeight(static_cast<int>(definitionHeight * grown));
     RichTextBox2->setFixedHeight(
         static_cast<int>(RichTextBox2->fontMetrics().height() * 3 * grown));
 }

@@ -100,7 +100,7 @@ private:
     bool paragraphLine(const Line& line) {
         if (StartsWith(line.text, ParagraphMark))
             return true;
-        violation(line.number, "line does not begin with \"\\par \"");
+        violation(line.number, R"(line does not begin with "\par ")");
         return false;
     }
 
@@ -211,7 +211,7 @@ private:
             choice = found;
         }
         if (choice + 1 >= marker)
-            violation(m_lines[choice].number, "no \"\\par \" behind the last choice");
+            violation(m_lines[choice].number, R"(no "\par " behind the last choice)");
     }
 
     void help(int from, int to) {

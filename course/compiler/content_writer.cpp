@@ -50,10 +50,10 @@ public:
         std::string text(ParagraphMark);
         switch (p.style) {
         case ParagraphStyle::Heading:
-            text += "\\pard\\qc\\b " + p.rtf + "\\b0 ";
+            text += R"(\pard\qc\b )" + p.rtf + R"(\b0 )";
             break;
         case ParagraphStyle::Bullet:
-            text += "\\pard\\fi-240\\li360 \\'95\\tab " + p.rtf;
+            text += R"(\pard\fi-240\li360 \'95\tab )" + p.rtf;
             break;
         case ParagraphStyle::Plain:
             if (m_formatted)

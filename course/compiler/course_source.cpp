@@ -170,15 +170,15 @@ std::map<int, fs::path> NumberedFiles(const fs::path& folder, const std::string&
         const std::string file = entry.path().filename().string();
         if (entry.path().extension() != ".txt")
             continue;
+        const std::string where = (fs::path(name) / file).generic_string();
         const size_t digits = file.find_first_not_of("0123456789");
         if (digits == 0 || digits == std::string::npos) {
-            errors.push_back({{name + "/" + file, 0}, "file name does not start with its number"});
+            errors.push_back({{where, 0}, "file name does not start with its number"});
             continue;
         }
         const int number = std::stoi(file.substr(0, digits));
         if (!files.emplace(number, entry.path()).second)
-            errors.push_back(
-                {{name + "/" + file, 0}, "a second file numbered " + std::to_string(number)});
+            errors.push_back({{where, 0}, "a second file numbered " + std::to_string(number)});
     }
     return files;
 }
