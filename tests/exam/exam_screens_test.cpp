@@ -58,7 +58,9 @@ private Q_SLOTS:
         }
         QVERIFY(enabled(&set, "Command1_0"));
         Control<QListWidget>(&set, "List1_1")->setCurrentRow(3);
+        ClickAtLeft(Control<QRadioButton>(&set, "Option1_1")); // traditional this time
         click(&set, "Command1_0");
+        QCOMPARE(f->state.ExamStructured, 0);
         QCOMPARE(f->state.ExamKind * 10 + f->state.ExamItemCount, 34);
         QVERIFY(f->state.ExamTopics[3] && !f->state.ExamTopics[1]);
         QCOMPARE(lastCall(), (ScreenCall{ScreenCallKind::Show, ScreenName::ExamTest}));
