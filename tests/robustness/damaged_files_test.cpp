@@ -9,8 +9,6 @@
 #include "tests/support/study_folder.h"
 #include "tests/support/test_services.h"
 
-#include <QApplication>
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -92,9 +90,3 @@ INSTANTIATE_TEST_SUITE_P(Catalogue, DamagedFile, testing::ValuesIn(Cases),
                          [](const auto& info) { return std::string(info.param.name); });
 
 } // namespace
-
-int main(int argc, char** argv) {
-    QApplication app(argc, argv);
-    testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
-}
